@@ -1,0 +1,37 @@
+#pragma once
+
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+namespace tavimor {
+
+/// What the program's exit status says.
+enum class ExitCode { Success = 0, Error = 1, Usage = 2, NoFit = 3 };
+
+/// Arguments that do not go with the problem they name.
+struct UsageError : std::runtime_error {
+  using std::runtime_error::runtime_error;
+};
+
+/// Each command prints on standard output. Errors: RunTimeError and BadFile for files and for the run-time errors of
+/// the operations, UsageError.
+
+/// Fits the problem and prints the results listing, one list item a line; saves the fitted problem as the pair
+/// `output` unless that is empty.
+ExitCode fitCommand(const std::string& problem, const std::string& output);
+
+/// Prints the specification block of each variable and the stored results, if any.
+ExitCode showCommand(const std::string& problem);
+
+/// Prints the estimate at the point, or, where `values` is empty, at each point that standard input names in a line.
+/// A problem without a stored fit is fitted first.
+ExitCode evalCommand(const std::string& problem, const std::vector<std::string>& values);
+
+/// Prints the lines of the printed report.
+ExitCode reportCommand(const std::string& problem);
+
+/// Opens the problem and saves it as the pair `output`.
+ExitCode copyCommand(const std::string& problem, const std::string& output);
+
+}  // namespace tavimor

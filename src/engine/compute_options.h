@@ -1,0 +1,21 @@
+#pragma once
+
+#include <functional>
+
+namespace tavimor {
+
+/// Instruction sets that the sums can use. Every one gives the same bits.
+enum class InstructionSet { Plain, Baseline, Avx2, Avx512 };
+
+/// The widest set that this processor has, and whether it has a given one.
+InstructionSet widestInstructionSet();
+bool hasInstructionSet(InstructionSet set);
+
+/// How a fit is to be run; the result does not depend on it.
+struct ComputeOptions {
+  int threads = 0;  // 0: as many as pay
+  InstructionSet instructionSet = widestInstructionSet();
+  std::function<void(double)> progress;  // told the share of the work that is done, 0..1
+};
+
+}  // namespace tavimor

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <vector>
+
+#include "model/Dimension.h"
+
+namespace tavimor {
+
+/// The normal matrix of one variable: degree + 1 rows and columns.
+/// Errors: OutOfMemory above kLargestDegree, where the elimination would take hours and the powers overflow.
+class Gram {
+ public:
+  static constexpr Long kLargestDegree = 4095;
+
+  explicit Gram(Long degree);
+
+  Long degree() const { return degree_; }
+  double& operator()(Long row, Long column) { return elements_[row * (degree_ + 1) + column]; }
+  double operator()(Long row, Long column) const { return elements_[row * (degree_ + 1) + column]; }
+
+ private:
+  Long degree_;
+  std::vector<double> elements_;
+};
+
+/// The deviations of the values of variable k from its centre.
+std::vector<double> deviations(const Dimension& model, Long k);
+
+/// The normal matrix of variable k:
+///   gram(a,b) = sum over the values of d^(a+b),   d = value - Centre[k].
+/// Each power is d^a squared (d^a by repeated multiplication) and then multiplied by d again and again, and each sum
+/// is one chain over the values in their order.
+/// The matrix of the whole fit is the Kronecker product of those of its variables, which is never formed.
+/// Source: Björck, Numerical Methods for Least Squares Problems, 1996, ch. 8 (tensor-product problems).
+Gram normalMatrix(const Dimension& model, Long k);
+
+}  // namespace tavimor

@@ -1,0 +1,145 @@
+#include "model/problem_reader.h"
+
+#include <limits>
+#include <utility>
+
+#include "model/spec_fields.h"
+#include "model/var_values.h"
+#include "runtime/file_pair.h"
+#include "runtime/input_file.h"
+#include "runtime/val.h"
+
+namespace tavimor {
+
+namespace {
+
+constexpr Long kMostLastIndex = std::numeric_limits<Long>::max() - 1;  // so that the count is a Long too
+
+Long readLastVar(InputFile& file) { return file.readLong("the number of variables less one", 0, kMaxVariables - 1); }
+
+// The elements of a table with these bounds, or the largest number where there are more than it can count.
+std::uint64_t elements(const PerVariable<Long>& last) {
+  std::uint64_t product = 1;
+  for (const Long bound : last) {
+    const std::uint64_t extent = static_cast<std::uint64_t>(bound) + 1;
+    if (product > std::numeric_limits<std::uint64_t>::max() / extent) return std::numeric_limits<std::uint64_t>::max();
+    product *= extent;
+  }
+  return product;
+}
+
+// Before memory is taken for numbers that are to come: the rest of the file must be able to hold them.
+void requireRoom(const InputFile& file, std::uint64_t needed, const char* items) {
+  if (needed > file.mostFieldsLeft())
+    file.refuse(std::to_string(needed) + " " + items, "room for " + std::to_string(file.mostFieldsLeft()) + " at most");
+}
+
+std::string readRecord(InputFile& file, Dimension& model, Long v) {
+  model.VarName[v] = file.readText("the name of a variable");
+  model.LowerLimit[v] = file.readDouble("the lower limit");
+  model.UpperLimit[v] = file.readDouble("the upper limit");
+  const std::string centre = file.readText("the centre of expansion");
+  model.Centre[v] = centreFromText(centre, model.LowerLimit[v], model.UpperLimit[v]);
+  model.PeriodFlag[v] = file.readBoolean("the period flag");
+  const std::string period = file.readText("the period");
+  model.Period[v] = period == "*" ? model.Pi + model.Pi : Val(period);
+  model.Degree[v] = file.readLong("the degree", 0, kMostLastIndex);
+  return centre;
+}
+
+void readCoefficients(InputFile& file, Dimension& model) {
+  requireRoom(file, elements(model.Degree), "coefficients");
+  model.Coef.redim(model.Degree);
+  file.readDoubles("a coefficient", model.Coef.data(), model.Coef.size());  // first index fastest, as in memory
+}
+
+CentreTexts readSpecification(const std::string& path, Dimension& model) {
+  InputFile file(path);
+  CentreTexts centres;
+  model.LastVar = readLastVar(file);
+  for (Long v = 0; v <= model.LastVar; ++v) centres[v] = readRecord(file, model, v);
+  model.FitDone = file.readBoolean("whether there is a fit");
+  if (model.FitDone) readCoefficients(file, model);
+  file.expectEnd();
+  return centres;
+}
+
+void readCounts(InputFile& file, Dimension& model) {
+  for (Long v = 0; v <= model.LastVar; ++v) {
+    model.LastPoint[v] = file.readLong("the number of values less one", 0, kMostLastIndex);
+    model.EquallySpaced[v] = file.readBoolean("whether the values are equally spaced");
+    model.ValuesGiven[v] = true;
+  }
+  requireRoom(file, elements(model.LastPoint), "function values");
+}
+
+void readValueLists(InputFile& file, Dimension& model) {
+  for (Long d = 0; d < kMaxVariables; ++d) {
+    ResizeVarValues(model, d);
+    if (model.LastPoint[d] != 0)
+      file.readDoubles("a value of a variable", valueList(model, d).data(), valueList(model, d).size());
+  }
+}
+
+// The table stands in the file with the last index fastest.
+void readFunction(InputFile& file, Dimension& model) {
+  model.F.redim(model.LastPoint);
+  const std::size_t n0 = model.F.extent(0), n1 = model.F.extent(1), n2 = model.F.extent(2), n3 = model.F.extent(3);
+  for (std::size_t i0 = 0; i0 < n0; ++i0)
+    for (std::size_t i1 = 0; i1 < n1; ++i1)
+      for (std::size_t i2 = 0; i2 < n2; ++i2) {
+        double* line = model.F.data() + i0 + n0 * (i1 + n1 * i2);
+        file.readDoubles("a value of the function", line, n3, model.F.stride(3));
+      }
+}
+
+void readStatistics(InputFile& file, Dimension& model) {
+  model.NumGridPoints = file.readLong("the number of grid points");
+  model.CorrCoef = file.readDouble("the correlation coefficient");
+  model.StdErr = file.readDouble("the standard error");
+  model.SumRes2 = file.readDouble("the sum of squared residuals");
+  model.AvgGiven = file.readDouble("the average of the given values");
+  model.AvgEstimated = file.readDouble("the average of the estimated values");
+}
+
+void readValues(const std::string& path, Dimension& model) {
+  InputFile file(path);
+  model.LastVar = readLastVar(file);
+  readCounts(file, model);
+  readValueLists(file, model);
+  readFunction(file, model);
+  if (model.FitDone) readStatistics(file, model);
+  file.expectEnd();
+}
+
+// What is not part of a problem: the state of the run.
+void keepRunState(Dimension& opened, const Dimension& model) {
+  opened.CurVar = model.CurVar;
+  opened.LoadingFile = model.LoadingFile;
+  opened.Updating = model.Updating;
+  opened.x = model.x;
+  opened.t = model.t;
+  opened.S3 = model.S3;
+  opened.FileName = model.FileName;
+  opened.WorkDir = model.WorkDir;
+  opened.V = model.V;
+  if (opened.FitDone) return;
+  opened.CorrCoef = model.CorrCoef;
+  opened.StdErr = model.StdErr;
+  opened.SumRes2 = model.SumRes2;
+  opened.AvgGiven = model.AvgGiven;
+  opened.AvgEstimated = model.AvgEstimated;
+}
+
+}  // namespace
+
+CentreTexts readProblem(const std::string& path, Dimension& model) {
+  Dimension opened;
+  CentreTexts centres = readSpecification(specificationPath(path), opened);
+  readValues(valuesPath(path), opened);
+  keepRunState(opened, model);
+  model = std::move(opened);
+  return centres;
+}
+
+}  // namespace tavimor

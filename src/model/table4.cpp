@@ -1,0 +1,69 @@
+#include "model/table4.h"
+
+#include <algorithm>
+#include <limits>
+
+#include "runtime/run_time_error.h"
+
+namespace tavimor {
+
+namespace {
+
+// Positions are counted in a Long, as the number of grid points is.
+constexpr std::size_t kMostElements = std::numeric_limits<Long>::max();
+
+}  // namespace
+
+std::size_t tableSize(const PerVariable<Long>& last) {
+  std::size_t size = 1;
+  for (const Long bound : last) {
+    if (bound < 0) throw RunTimeError(ErrorNumber::SubscriptOutOfRange);
+    const std::size_t extent = static_cast<std::size_t>(bound) + 1;
+    if (extent > kMostElements / size) throw RunTimeError(ErrorNumber::OutOfMemory);
+    size *= extent;
+  }
+  return size;
+}
+
+void Table4::redim(const PerVariable<Long>& last) {
+  const std::size_t size = tableSize(last);
+  try {
+    elements_.assign(size, 0.0);
+  } catch (const std::bad_alloc&) {
+    throw RunTimeError(ErrorNumber::OutOfMemory);
+  }
+  last_ = last;
+}
+
+void Table4::resizeKeeping(const PerVariable<Long>& last) {
+  Table4 resized;
+  resized.redim(last);
+  PerVariable<Long> common{};
+  std::transform(last.begin(), last.end(), last_.begin(), common.begin(),
+                 [](Long a, Long b) { return std::min(a, b); });
+  for (Long i3 = 0; i3 <= common[3]; ++i3)
+    for (Long i2 = 0; i2 <= common[2]; ++i2)
+      for (Long i1 = 0; i1 <= common[1]; ++i1)
+        std::copy_n(&elements_[offset(0, i1, i2, i3)], common[0] + 1,
+                    &resized.elements_[resized.offset(0, i1, i2, i3)]);
+  *this = std::move(resized);
+}
+
+std::size_t Table4::stride(int k) const {
+  std::size_t distance = 1;
+  for (int axis = 0; axis < k; ++axis) distance *= extent(axis);
+  return distance;
+}
+
+std::size_t Table4::offset(Long i0, Long i1, Long i2, Long i3) const {
+  const PerVariable<Long> index = {i0, i1, i2, i3};
+  std::size_t at = 0;
+  for (int k = kMaxVariables - 1; k >= 0; --k) {
+    const Long i = index[k];
+    if (i < 0 || i > last_[k]) throw RunTimeError(ErrorNumber::SubscriptOutOfRange);
+    at = at * extent(k) + i;
+  }
+  return at;
+}
+
+}  // namespace tavimor

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <vector>
+
+#include "runtime/long.h"
+
+namespace tavimor {
+
+constexpr int kMaxVariables = 4;
+
+/// One entry per variable, declared or not.
+template <class T>
+using PerVariable = std::array<T, kMaxVariables>;
+
+/// A table of doubles over four axes. Its bounds are last indices: axis k runs from 0 to last()[k], so that an axis
+/// whose last index is 0 has extent 1. In memory the first index is the fastest.
+/// Errors: SubscriptOutOfRange for an index or a bound below 0 and for an index beyond its bound; OutOfMemory for
+/// bounds whose elements no memory holds.
+class Table4 {
+ public:
+  Table4() { redim({0, 0, 0, 0}); }
+
+  /// New bounds; every element becomes 0.
+  void redim(const PerVariable<Long>& last);
+
+  /// New bounds; an element whose indices lie within the old and the new ones keeps its value, every other one is 0.
+  void resizeKeeping(const PerVariable<Long>& last);
+
+  const PerVariable<Long>& last() const { return last_; }
+  std::size_t extent(int k) const { return static_cast<std::size_t>(last_[k]) + 1; }
+  std::size_t size() const { return elements_.size(); }
+
+  /// The distance in memory between neighbours along axis k.
+  std::size_t stride(int k) const;
+
+  double& operator()(Long i0, Long i1, Long i2, Long i3) { return elements_[offset(i0, i1, i2, i3)]; }
+  double operator()(Long i0, Long i1, Long i2, Long i3) const { return elements_[offset(i0, i1, i2, i3)]; }
+
+  double* data() { return elements_.data(); }
+  const double* data() const { return elements_.data(); }
+
+ private:
+  std::size_t offset(Long i0, Long i1, Long i2, Long i3) const;
+
+  PerVariable<Long> last_{};
+  std::vector<double> elements_;
+};
+
+/// The elements of a table with these bounds. Errors: as Table4.
+std::size_t tableSize(const PerVariable<Long>& last);
+
+}  // namespace tavimor

@@ -1,0 +1,214 @@
+#include "runtime/input_file.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cmath>
+#include <cstring>
+#include <filesystem>
+
+#include "runtime/bad_file.h"
+#include "runtime/number_text.h"
+#include "runtime/numeral.h"
+#include "runtime/run_time_error.h"
+#include "runtime/text.h"
+
+namespace tavimor {
+
+namespace {
+
+constexpr std::size_t kWindowBytes = 256 * 1024;
+constexpr std::ptrdiff_t kUsualFieldBytes = 64;  // a window with less left is filled before a number is read
+constexpr std::size_t kExcerptBytes = 40;
+constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+
+std::uint64_t regularFileSize(const std::string& path) {
+  std::error_code error;
+  const std::uint64_t size = std::filesystem::file_size(path, error);
+  if (error && error.value() != ENOENT && error.value() != EACCES) throw fileError(EISDIR, path);
+  if (error) throw fileError(error.value(), path);
+  return size;
+}
+
+bool isBlank(char c) { return c == ' ' || c == '\t'; }
+
+bool equalIgnoringCase(std::string_view a, std::string_view upperCase) {
+  const auto upper = [](char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; };
+  return std::equal(a.begin(), a.end(), upperCase.begin(), upperCase.end(),
+                    [&](char c, char wanted) { return upper(c) == wanted; });
+}
+
+}  // namespace
+
+InputFile::InputFile(const std::string& path)
+    : path_(path),
+      unread_(regularFileSize(path)),
+      window_(static_cast<std::size_t>(std::min<std::uint64_t>(kWindowBytes, unread_ + 1))),
+      at_(window_.data()),
+      last_(window_.data()) {
+  file_ = openFile(path, "rb");
+  if (!file_) throw fileError(errno, path);
+  fill();
+  if (std::string_view(at_, static_cast<std::size_t>(last_ - at_)).starts_with(kByteOrderMark))
+    at_ += kByteOrderMark.size();
+}
+
+// Moves what is left to the window's beginning and reads behind it: every pointer into the window is void then.
+// False, and nothing moved, where the file has ended or the window is full.
+bool InputFile::fill() {
+  const auto left = static_cast<std::size_t>(last_ - at_);
+  if (ended_ || left == window_.size()) return false;
+  std::memmove(window_.data(), at_, left);
+  const std::size_t got = std::fread(window_.data() + left, 1, window_.size() - left, file_.get());
+  if (std::ferror(file_.get()) != 0) throw fileError(errno, path_);
+  at_ = window_.data();
+  last_ = at_ + left + got;
+  unread_ -= std::min<std::uint64_t>(unread_, got);
+  ended_ = std::feof(file_.get()) != 0;
+  return true;
+}
+
+const char* InputFile::afterBlanks(const char* at) const {
+  while (at != last_ && isBlank(*at)) ++at;
+  return at;
+}
+
+// Whether the window ends too early to tell what stands at this place.
+bool InputFile::needsMore(const char* at) const { return !ended_ && (at == last_ || (*at == '\r' && at + 1 == last_)); }
+
+bool InputFile::isFieldEnd(const char* at) const {
+  if (at == last_ || *at == ',' || *at == '\n') return true;
+  return *at == '\r' && at + 1 != last_ && at[1] == '\n';
+}
+
+InputFile::NumberField InputFile::peekNumber(const char* item) {
+  if (last_ - at_ < kUsualFieldBytes) fill();
+  while (true) {
+    const char* first = afterBlanks(at_);
+    const Numeral numeral = scanNumeral(first, last_);
+    const char* end = afterBlanks(numeral.end);
+    if (needsMore(end) && fill()) continue;
+    if (numeral.end == first || !isFieldEnd(end)) refuse(std::string(item) + " (a number)", excerpt());
+    return {numeral.value, end};
+  }
+}
+
+std::string_view InputFile::peekPlainField(const char* item) {
+  const char* end = at_;
+  while (true) {
+    while (end != last_ && !isFieldEnd(end) && !needsMore(end)) ++end;
+    if (!needsMore(end)) break;
+    const std::ptrdiff_t length = end - at_;
+    if (!fill()) refuse(item, "a field that is too long");
+    end = at_ + length;
+  }
+  if (at_ == last_) refuse(item, excerpt());
+  return {at_, static_cast<std::size_t>(end - at_)};
+}
+
+// The window stands at an opening quote.
+const char* InputFile::findClosingQuote(const char* item) {
+  const char* at = at_ + 1;
+  while (true) {
+    const char* behind = at;
+    if (at != last_ && *at == '"') {
+      behind = afterBlanks(at + 1);
+      if (isFieldEnd(behind) && !needsMore(behind)) return at;
+    }
+    if (needsMore(behind)) {
+      const std::ptrdiff_t scanned = at - at_;
+      if (fill()) {
+        at = at_ + scanned;
+        continue;
+      }
+    }
+    if (at == last_ || *at == '\n')
+      refuse(std::string(item) + " with a closing quotation mark", excerpt() + " and no such mark");
+    ++at;
+  }
+}
+
+void InputFile::consume(const char* end) {
+  at_ = end;
+  if (at_ == last_) return;
+  if (*at_ == '\r') ++at_;
+  if (*at_ == '\n') ++line_;
+  ++at_;
+}
+
+std::string InputFile::readText(const char* item) {
+  if (last_ - at_ < kUsualFieldBytes) fill();
+  at_ = afterBlanks(at_);
+  if (at_ != last_ && *at_ == '"') {
+    const char* quote = findClosingQuote(item);
+    std::string text = utf8FromBytes({at_ + 1, static_cast<std::size_t>(quote - at_ - 1)});
+    consume(afterBlanks(quote + 1));
+    return text;
+  }
+  const std::string_view field = peekPlainField(item);
+  std::string text = utf8FromBytes(trimmed(field));
+  consume(field.data() + field.size());
+  return text;
+}
+
+double InputFile::readDouble(const char* item) {
+  const NumberField field = peekNumber(item);
+  consume(field.end);
+  return field.value;
+}
+
+Long InputFile::readLong(const char* item, Long least, Long most) {
+  const NumberField field = peekNumber(item);
+  const double whole = std::nearbyint(field.value);
+  if (!(whole >= least && whole <= most))
+    refuse(std::string(item) + " (a whole number from " + numberText(least) + " to " + numberText(most) + ")",
+           excerpt());
+  consume(field.end);
+  return toLong(whole);
+}
+
+bool InputFile::readBoolean(const char* item) {
+  const std::string_view field = peekPlainField(item);
+  const bool isTrue = equalIgnoringCase(trimmed(field), "#TRUE#");
+  if (!isTrue && !equalIgnoringCase(trimmed(field), "#FALSE#"))
+    refuse(std::string(item) + " (#TRUE# or #FALSE#)", excerpt());
+  consume(field.data() + field.size());
+  return isTrue;
+}
+
+void InputFile::readDoubles(const char* item, double* target, std::size_t count, std::size_t stride) {
+  for (std::size_t n = 0; n < count; ++n) target[n * stride] = readDouble(item);
+}
+
+void InputFile::expectEnd() {
+  while (true) {
+    at_ = afterBlanks(at_);
+    if (needsMore(at_) && fill()) continue;
+    if (at_ == last_) return;
+    if (*at_ == ',' || !isFieldEnd(at_)) refuse("the end of the file", excerpt());
+    consume(at_);
+  }
+}
+
+std::uint64_t InputFile::mostFieldsLeft() const { return (unread_ + static_cast<std::uint64_t>(last_ - at_) + 1) / 2; }
+
+void InputFile::refuse(const std::string& expected, const std::string& found) const {
+  throw BadFile(path_, line_, expected, found);
+}
+
+// What stands at this place, fit for one line of a message.
+std::string InputFile::excerpt() const {
+  const char* first = afterBlanks(at_);
+  if (first == last_) return "the end of the file";
+  const char* end = first;
+  while (end != last_ && *end != '\n' && (*end != ',' || *first == '"') &&
+         end - first < static_cast<std::ptrdiff_t>(kExcerptBytes))
+    ++end;
+  const std::string_view field = trimmed({first, static_cast<std::size_t>(end - first)});
+  std::string text = utf8FromBytes(field.ends_with('\r') ? field.substr(0, field.size() - 1) : field);
+  if (text.empty()) return "nothing";
+  for (char& c : text)
+    if (static_cast<unsigned char>(c) < ' ' || c == '\x7F') c = '?';
+  return '"' + text + '"';
+}
+
+}  // namespace tavimor

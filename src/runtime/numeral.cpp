@@ -1,0 +1,137 @@
+#include "runtime/numeral.h"
+
+#include <algorithm>
+#include <array>
+#include <bit>
+#include <charconv>
+#include <cstdint>
+#include <cstring>
+#include <limits>
+#include <string_view>
+
+namespace tavimor {
+
+namespace {
+
+// A whole number up to 2^53 and a power of ten up to 10^22 are both exact doubles, so that one multiplication or
+// division rounds the numeral correctly (Clinger, How to Read Floating Point Numbers Accurately, 1990).
+constexpr std::uint64_t kLargestExactWhole = std::uint64_t{1} << std::numeric_limits<double>::digits;
+constexpr std::array<double, 23> kExactPowersOfTen = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
+                                                      1e8,  1e9,  1e10, 1e11, 1e12, 1e13, 1e14, 1e15,
+                                                      1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
+constexpr int kLargestExactPower = static_cast<int>(kExactPowersOfTen.size()) - 1;
+constexpr int kDigitsInWord = std::numeric_limits<std::uint64_t>::digits10;  // 19: no overflow up to here
+constexpr int kExponentLimit = 100000;  // beyond any double, far from overflowing an int
+
+struct Digits {
+  std::uint64_t whole = 0;  // the digits as one whole number, valid for up to kDigitsInWord of them
+  int count = 0;
+  int significant = 0;  // the digits from the first one that is not zero
+  int behindPoint = 0;
+};
+
+bool isDigit(char c) { return c >= '0' && c <= '9'; }
+
+std::uint64_t eightBytes(const char* at) {
+  std::uint64_t word = 0;
+  std::memcpy(&word, at, sizeof word);
+  return word;
+}
+
+bool areEightDigits(std::uint64_t word) {
+  constexpr std::uint64_t high = 0xF0F0F0F0F0F0F0F0;
+  return ((word & high) | (((word + 0x0606060606060606) & high) >> 4)) == 0x3333333333333333;
+}
+
+// Neighbouring digits are joined to pairs, the pairs to fours, the fours to eight, each step within one word.
+std::uint64_t eightDigitsValue(std::uint64_t word) {
+  constexpr std::uint64_t pairs = 0x000000FF000000FF;
+  word -= 0x3030303030303030;
+  word = word * 10 + (word >> 8);
+  return ((word & pairs) * (100 + (std::uint64_t{1000000} << 32)) +
+          ((word >> 16) & pairs) * (1 + (std::uint64_t{10000} << 32))) >>
+         32;
+}
+
+const char* scanDigits(const char* at, const char* last, Digits& digits) {
+  if constexpr (std::endian::native == std::endian::little) {
+    while (last - at >= 8 && areEightDigits(eightBytes(at))) {
+      const std::uint64_t eight = eightDigitsValue(eightBytes(at));
+      if (digits.significant > 0)
+        digits.significant += 8;
+      else if (eight != 0)
+        digits.significant = static_cast<int>(at + 8 - std::find_if(at, at + 8, [](char c) { return c != '0'; }));
+      digits.whole = digits.whole * 100000000 + eight;
+      digits.count += 8;
+      at += 8;
+    }
+  }
+  for (; at != last && isDigit(*at); ++at) {
+    if (digits.significant > 0 || *at != '0') ++digits.significant;
+    digits.whole = digits.whole * 10 + static_cast<std::uint64_t>(*at - '0');
+    ++digits.count;
+  }
+  return at;
+}
+
+const char* scanExponent(const char* at, const char* last, int& exponent) {
+  if (at == last || (*at != 'E' && *at != 'e')) return at;
+  const char* digit = at + 1;
+  const bool negative = digit != last && *digit == '-';
+  if (negative || (digit != last && *digit == '+')) ++digit;
+  if (digit == last || !isDigit(*digit)) return at;
+  for (; digit != last && isDigit(*digit); ++digit) exponent = std::min(exponent * 10 + (*digit - '0'), kExponentLimit);
+  if (negative) exponent = -exponent;
+  return digit;
+}
+
+Numeral scanWord(const char* first, const char* last) {
+  constexpr std::size_t length = 3;
+  const std::string_view text(first, static_cast<std::size_t>(last - first));
+  const bool whole = text.size() <= length ||
+                     !(isDigit(text[length]) || text[length] == '_' || (text[length] >= 'A' && text[length] <= 'Z') ||
+                       (text[length] >= 'a' && text[length] <= 'z'));
+  if (whole && text.starts_with("INF")) return {std::numeric_limits<double>::infinity(), first + length};
+  if (whole && text.starts_with("NAN")) return {std::numeric_limits<double>::quiet_NaN(), first + length};
+  return {0.0, first};
+}
+
+double roundedByLibrary(const char* first, const char* end, int powerOfTen, int significant) {
+  double value = 0.0;
+  if (std::from_chars(first, end, value).ec == std::errc::result_out_of_range)
+    return powerOfTen + significant > 0 ? std::numeric_limits<double>::infinity() : 0.0;
+  return value;
+}
+
+Numeral scanUnsigned(const char* first, const char* last) {
+  Digits digits;
+  const char* at = scanDigits(first, last, digits);
+  if (at != last && *at == '.') {
+    const int beforePoint = digits.count;
+    at = scanDigits(at + 1, last, digits);
+    digits.behindPoint = digits.count - beforePoint;
+  }
+  if (digits.count == 0) return scanWord(first, last);
+  int exponent = 0;
+  at = scanExponent(at, last, exponent);
+
+  const int powerOfTen = exponent - digits.behindPoint;
+  const bool exact = digits.count <= kDigitsInWord && digits.whole <= kLargestExactWhole &&
+                     powerOfTen >= -kLargestExactPower && powerOfTen <= kLargestExactPower;
+  if (!exact) return {roundedByLibrary(first, at, powerOfTen, digits.significant), at};
+  const double whole = static_cast<double>(digits.whole);
+  if (powerOfTen < 0) return {whole / kExactPowersOfTen[-powerOfTen], at};
+  return {whole * kExactPowersOfTen[powerOfTen], at};
+}
+
+}  // namespace
+
+Numeral scanNumeral(const char* first, const char* last) {
+  const bool hasSign = first != last && (*first == '-' || *first == '+');
+  const char* magnitude = hasSign ? first + 1 : first;
+  const Numeral numeral = scanUnsigned(magnitude, last);
+  if (numeral.end == magnitude) return {0.0, first};
+  return {hasSign && *first == '-' ? -numeral.value : numeral.value, numeral.end};
+}
+
+}  // namespace tavimor

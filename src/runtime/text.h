@@ -1,0 +1,24 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace tavimor {
+
+/// Text is UTF-8 throughout, and a column is one character of it.
+
+/// Bytes that came from outside as UTF-8: those that are no UTF-8 are taken as Latin-1, each for itself.
+std::string utf8FromBytes(std::string_view bytes);
+
+/// The number of characters.
+std::size_t characterCount(std::string_view text);
+
+/// Writes `insert` over `line` from column `column` (the first one is 1) on, without changing the number of
+/// characters: what would stand beyond the end is dropped.
+std::string overlaid(std::string_view line, std::size_t column, std::string_view insert);
+
+/// The text without the blanks and tabs at both ends.
+std::string_view trimmed(std::string_view text);
+
+}  // namespace tavimor
