@@ -21,25 +21,25 @@ Long axisWithoutRoom(const Dimension& model) {
   return -1;
 }
 
-Solution solveVariable(const Dimension& model, Long k, Table4& coef) {
-  Gram gram = normalMatrix(model, k);
+Solution solveVariable(const Dimension& model, Long k, Table4& coef, const ComputeOptions& options) {
+  Gram gram = normalMatrix(model, k, options);
   return solveAlong(k, gram, coef);
 }
 
-Solution solveAll(Dimension& model) {
+Solution solveAll(Dimension& model, const ComputeOptions& options) {
   for (Long k = 0; k <= model.LastVar; ++k)
-    if (solveVariable(model, k, model.Coef) == Solution::Singular) return Solution::Singular;
+    if (solveVariable(model, k, model.Coef, options) == Solution::Singular) return Solution::Singular;
   return Solution::Found;
 }
 
 // Whether one of the systems is singular, found on a single line: no larger table is needed to tell.
-Solution solveForSingularityOnly(const Dimension& model) {
+Solution solveForSingularityOnly(const Dimension& model, const ComputeOptions& options) {
   for (Long k = 0; k <= model.LastVar; ++k) {
     PerVariable<Long> line{};
     line[k] = model.Degree[k];
     Table4 coef;
     coef.redim(line);
-    if (solveVariable(model, k, coef) == Solution::Singular) return Solution::Singular;
+    if (solveVariable(model, k, coef, options) == Solution::Singular) return Solution::Singular;
   }
   return Solution::Found;
 }
@@ -48,11 +48,11 @@ Solution solve(Dimension& model, const ComputeOptions& options) {
   // With too high a degree the fitted values find no room and the fit ends with a subscript error, unless a system
   // is singular before that; the coefficients are not needed for either.
   if (axisWithoutRoom(model) >= 0) {
-    if (solveForSingularityOnly(model) == Solution::Singular) return Solution::Singular;
+    if (solveForSingularityOnly(model, options) == Solution::Singular) return Solution::Singular;
     throw RunTimeError(ErrorNumber::SubscriptOutOfRange);
   }
   accumulateRightHandSide(model, options);
-  return solveAll(model);
+  return solveAll(model, options);
 }
 
 void fit(Dimension& model, const LineSink& addItem, const ComputeOptions& options) {

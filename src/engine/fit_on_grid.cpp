@@ -1,6 +1,8 @@
 #include "engine/fit_on_grid.h"
 
-#include "engine/gram.h"
+#include <vector>
+
+#include "engine/lane_sums.h"
 #include "model/var_values.h"
 #include "runtime/run_time_error.h"
 
@@ -15,35 +17,53 @@ void layCoefficientsIntoCorner(Dimension& model) {
         for (Long j0 = 0; j0 <= model.Degree[0]; ++j0) model.FitGrid(j0, j1, j2, j3) = model.Coef(j0, j1, j2, j3);
 }
 
-void evaluateLine(const std::vector<double>& coefficients, const std::vector<double>& d, double* line,
-                  std::size_t stride) {
-  for (std::size_t i = 0; i < d.size(); ++i) {
+void evaluatePlainly(const double* coefficients, std::size_t terms, const Axis& axis, double* line) {
+  for (std::size_t i = 0; i < axis.count; ++i) {
+    const double d = axis.values[i] - axis.centre;
     double sum = 0.0;
     double power = 1.0;
-    for (const double c : coefficients) {
-      sum = sum + c * power;
-      power = power * d[i];
+    for (std::size_t a = 0; a < terms; ++a) {
+      sum = sum + coefficients[a] * power;
+      power = power * d;
     }
-    line[i * stride] = sum;
+    line[i] = sum;
   }
 }
 
+// Puts the values of a line's polynomial in the place of its coefficients.
+class LineTransform {
+ public:
+  LineTransform(const Dimension& model, Long k, const ComputeOptions& options)
+      : axis_(axisOf(model, k)), stride_(model.FitGrid.stride(k)), coefficients_(model.Coef.extent(k)) {
+    const LaneSums* lanes = laneSums(options.instructionSet);
+    evaluate_ = lanes != nullptr ? lanes->evaluateLine : evaluatePlainly;
+    if (stride_ > 1) row_.resize(axis_.count);
+  }
+
+  void apply(double* line) {
+    for (std::size_t a = 0; a < coefficients_.size(); ++a) coefficients_[a] = line[a * stride_];
+    evaluate_(coefficients_.data(), coefficients_.size(), axis_, stride_ > 1 ? row_.data() : line);
+    for (std::size_t i = 0; i < row_.size(); ++i) line[i * stride_] = row_[i];
+  }
+
+ private:
+  Axis axis_;
+  std::size_t stride_;
+  std::vector<double> coefficients_;
+  std::vector<double> row_;
+  void (*evaluate_)(const double*, std::size_t, const Axis&, double*);
+};
+
 // Lines that no later axis reads hold no coefficients yet and are passed over.
-void transformAxis(Dimension& model, Long k) {
+void transformAxis(Dimension& model, Long k, const ComputeOptions& options) {
   PerVariable<Long> last = model.LastPoint;
   for (Long inner = 0; inner < k; ++inner) last[inner] = model.Degree[inner];
   last[k] = 0;
-  const std::size_t stride = model.FitGrid.stride(k);
-  const std::vector<double> d = deviations(model, k);
-  std::vector<double> coefficients(static_cast<std::size_t>(model.Degree[k]) + 1);
+  LineTransform transform(model, k, options);
   for (Long i3 = 0; i3 <= last[3]; ++i3)
     for (Long i2 = 0; i2 <= last[2]; ++i2)
       for (Long i1 = 0; i1 <= last[1]; ++i1)
-        for (Long i0 = 0; i0 <= last[0]; ++i0) {
-          double* line = &model.FitGrid(i0, i1, i2, i3);
-          for (std::size_t a = 0; a < coefficients.size(); ++a) coefficients[a] = line[a * stride];
-          evaluateLine(coefficients, d, line, stride);
-        }
+        for (Long i0 = 0; i0 <= last[0]; ++i0) transform.apply(&model.FitGrid(i0, i1, i2, i3));
 }
 
 }  // namespace
@@ -55,10 +75,10 @@ double Deviation(const Dimension& model, Long k, Long i) {
   return values[i] - model.Centre[k];
 }
 
-void FitOnGrid(Dimension& model, const ComputeOptions&) {
+void FitOnGrid(Dimension& model, const ComputeOptions& options) {
   model.FitGrid.redim(model.LastPoint);
   layCoefficientsIntoCorner(model);
-  for (Long k = model.LastVar; k >= 0; --k) transformAxis(model, k);
+  for (Long k = model.LastVar; k >= 0; --k) transformAxis(model, k, options);
 }
 
 }  // namespace tavimor

@@ -1,6 +1,6 @@
 #include "engine/gram.h"
 
-#include "model/var_values.h"
+#include "engine/lane_sums.h"
 #include "runtime/run_time_error.h"
 
 namespace tavimor {
@@ -14,34 +14,37 @@ std::size_t matrixSize(Long degree) {
   return rows * rows;
 }
 
-}  // namespace
-
-Gram::Gram(Long degree) : degree_(degree), elements_(matrixSize(degree)) {}
-
-std::vector<double> deviations(const Dimension& model, Long k) {
-  const std::vector<double>& values = valueList(model, k);
-  const std::size_t count = static_cast<std::size_t>(model.LastPoint[k]) + 1;
-  if (values.size() < count) throw RunTimeError(ErrorNumber::SubscriptOutOfRange);
-  std::vector<double> result(count);
-  for (std::size_t i = 0; i < count; ++i) result[i] = values[i] - model.Centre[k];
-  return result;
-}
-
-Gram normalMatrix(const Dimension& model, Long k) {
-  Gram gram(model.Degree[k]);
-  const Long degree = gram.degree();
-  for (const double d : deviations(model, k)) {
+// The loops that define the sums; the lanes give the same bits.
+void addPlainly(const Axis& axis, Gram& gram) {
+  for (std::size_t i = 0; i < axis.count; ++i) {
+    const double d = axis.values[i] - axis.centre;
     double p = 1.0;
-    for (Long a = 0; a <= degree; ++a) {
+    for (Long a = 0; a <= gram.degree(); ++a) {
       double q = p * p;
-      for (Long b = a; b <= degree; ++b) {
+      for (Long b = a; b <= gram.degree(); ++b) {
         gram(a, b) += q;
         q = q * d;
       }
       p = p * d;
     }
   }
-  for (Long a = 0; a <= degree; ++a)
+}
+
+}  // namespace
+
+Gram::Gram(Long degree) : degree_(degree), elements_(matrixSize(degree)) {}
+
+Gram normalMatrix(const Dimension& model, Long k, const ComputeOptions& options) {
+  Gram gram(model.Degree[k]);
+  const Axis axis = axisOf(model, k);
+  if (const LaneSums* lanes = laneSums(options.instructionSet)) {
+    const std::size_t terms = static_cast<std::size_t>(gram.degree()) + 1;
+    std::vector<double> sums(lanes->normalSumCount(terms));
+    lanes->normalMatrix(axis, terms, sums.data(), gram.data());
+  } else {
+    addPlainly(axis, gram);
+  }
+  for (Long a = 0; a <= gram.degree(); ++a)
     for (Long b = 0; b < a; ++b) gram(a, b) = gram(b, a);
   return gram;
 }

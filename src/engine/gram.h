@@ -2,6 +2,7 @@
 
 #include <vector>
 
+#include "engine/compute_options.h"
 #include "model/Dimension.h"
 
 namespace tavimor {
@@ -16,6 +17,7 @@ class Gram {
 
   Long degree() const { return degree_; }
   double& operator()(Long row, Long column) { return elements_[row * (degree_ + 1) + column]; }
+  double* data() { return elements_.data(); }
   double operator()(Long row, Long column) const { return elements_[row * (degree_ + 1) + column]; }
 
  private:
@@ -23,15 +25,12 @@ class Gram {
   std::vector<double> elements_;
 };
 
-/// The deviations of the values of variable k from its centre.
-std::vector<double> deviations(const Dimension& model, Long k);
-
 /// The normal matrix of variable k:
 ///   gram(a,b) = sum over the values of d^(a+b),   d = value - Centre[k].
 /// Each power is d^a squared (d^a by repeated multiplication) and then multiplied by d again and again, and each sum
 /// is one chain over the values in their order.
 /// The matrix of the whole fit is the Kronecker product of those of its variables, which is never formed.
 /// Source: Björck, Numerical Methods for Least Squares Problems, 1996, ch. 8 (tensor-product problems).
-Gram normalMatrix(const Dimension& model, Long k);
+Gram normalMatrix(const Dimension& model, Long k, const ComputeOptions& options = {});
 
 }  // namespace tavimor

@@ -1,15 +1,21 @@
 #include "engine/right_hand_side.h"
 
-#include "engine/gram.h"
+#include <algorithm>
+#include <vector>
+
+#include "engine/lane_sums.h"
+#include "engine/parallel.h"
 #include "runtime/run_time_error.h"
 
 namespace tavimor {
 
 namespace {
 
-using Deviations = PerVariable<std::vector<double>>;
+using Axes = PerVariable<Axis>;
 
-// The loops that define the sums; the fast code gives the same bits.
+constexpr std::size_t kPointsPerStrip = 8192;  // between two calls of the progress function
+
+// The loops that define the sums; the lanes give the same bits.
 void addPoint(Table4& coef, const PerVariable<double>& d, double f) {
   const PerVariable<Long>& degree = coef.last();
   double* sum = coef.data();
@@ -32,22 +38,67 @@ void addPoint(Table4& coef, const PerVariable<double>& d, double f) {
   }
 }
 
-void accumulatePlainly(const Table4& f, const Deviations& d, Table4& coef) {
+void accumulatePlainly(const Table4& f, const Axes& axis, Table4& coef) {
   const double* value = f.data();
-  for (const double d3 : d[3])
-    for (const double d2 : d[2])
-      for (const double d1 : d[1])
-        for (const double d0 : d[0]) addPoint(coef, {d0, d1, d2, d3}, *value++);
+  PerVariable<double> d{};
+  const auto deviation = [&](int k, std::size_t i) { d[k] = axis[k].values[i] - axis[k].centre; };
+  for (std::size_t i3 = 0; i3 < axis[3].count; ++i3) {
+    deviation(3, i3);
+    for (std::size_t i2 = 0; i2 < axis[2].count; ++i2) {
+      deviation(2, i2);
+      for (std::size_t i1 = 0; i1 < axis[1].count; ++i1) {
+        deviation(1, i1);
+        for (std::size_t i0 = 0; i0 < axis[0].count; ++i0) {
+          deviation(0, i0);
+          addPoint(coef, d, *value++);
+        }
+      }
+    }
+  }
+}
+
+TermGrid termGrid(const Table4& f, const Axes& axis, const Table4& coef) {
+  TermGrid grid{};
+  grid.f = f.data();
+  for (int k = 0; k < kMaxVariables; ++k) {
+    grid.axis[k] = axis[k];
+    grid.terms[k] = coef.extent(k);
+  }
+  return grid;
+}
+
+void accumulateColumns(const LaneSums& lanes, const TermGrid& grid, Columns columns, std::size_t points, double* coef,
+                       const std::function<void(double)>& progress) {
+  std::vector<double> sums(lanes.sumCount(grid, columns));
+  for (std::size_t first = 0; first < points; first += kPointsPerStrip) {
+    lanes.addPoints(grid, columns, first, std::min(first + kPointsPerStrip, points), sums.data());
+    if (progress) progress(static_cast<double>(first) / static_cast<double>(points));
+  }
+  lanes.collect(grid, columns, sums.data(), coef);
+}
+
+void accumulateInLanes(const LaneSums& lanes, const Table4& f, const Axes& axis, Table4& coef,
+                       const ComputeOptions& options) {
+  const TermGrid grid = termGrid(f, axis, coef);
+  const std::size_t columns = coef.size() / coef.extent(0);
+  const double workOfColumn = static_cast<double>(f.size()) * static_cast<double>(coef.extent(0));
+  inParallel(columns, workOfColumn, options.threads, [&](std::size_t first, std::size_t end) {
+    accumulateColumns(lanes, grid, {first, end}, f.size(), coef.data(),
+                      first == 0 ? options.progress : std::function<void(double)>());
+  });
 }
 
 }  // namespace
 
-void accumulateRightHandSide(Dimension& model, const ComputeOptions&) {
+void accumulateRightHandSide(Dimension& model, const ComputeOptions& options) {
   if (model.F.last() != model.LastPoint) throw RunTimeError(ErrorNumber::SubscriptOutOfRange);
-  Deviations d;
-  for (Long k = 0; k < kMaxVariables; ++k) d[k] = deviations(model, k);
+  Axes axis{};
+  for (Long k = 0; k < kMaxVariables; ++k) axis[k] = axisOf(model, k);
   model.Coef.redim(model.Degree);
-  accumulatePlainly(model.F, d, model.Coef);
+  if (const LaneSums* lanes = laneSums(options.instructionSet))
+    accumulateInLanes(*lanes, model.F, axis, model.Coef, options);
+  else
+    accumulatePlainly(model.F, axis, model.Coef);
 }
 
 }  // namespace tavimor

@@ -1,6 +1,8 @@
 #include "model/problem_reader.h"
 
+#include <algorithm>
 #include <limits>
+#include <span>
 #include <utility>
 
 #include "model/spec_fields.h"
@@ -34,6 +36,12 @@ void requireRoom(const InputFile& file, std::uint64_t needed, const char* items)
     file.refuse(std::to_string(needed) + " " + items, "room for " + std::to_string(file.mostFieldsLeft()) + " at most");
 }
 
+void readInOrder(InputFile& file, const char* item, double* target, std::size_t count) {
+  file.readDoubles(item, count, [&](std::span<const double> numbers) {
+    target = std::copy(numbers.begin(), numbers.end(), target);
+  });
+}
+
 std::string readRecord(InputFile& file, Dimension& model, Long v) {
   model.VarName[v] = file.readText("the name of a variable");
   model.LowerLimit[v] = file.readDouble("the lower limit");
@@ -50,7 +58,7 @@ std::string readRecord(InputFile& file, Dimension& model, Long v) {
 void readCoefficients(InputFile& file, Dimension& model) {
   requireRoom(file, elements(model.Degree), "coefficients");
   model.Coef.redim(model.Degree);
-  file.readDoubles("a coefficient", model.Coef.data(), model.Coef.size());  // first index fastest, as in memory
+  readInOrder(file, "a coefficient", model.Coef.data(), model.Coef.size());  // first index fastest, as in memory
 }
 
 CentreTexts readSpecification(const std::string& path, Dimension& model) {
@@ -77,20 +85,54 @@ void readValueLists(InputFile& file, Dimension& model) {
   for (Long d = 0; d < kMaxVariables; ++d) {
     ResizeVarValues(model, d);
     if (model.LastPoint[d] != 0)
-      file.readDoubles("a value of a variable", valueList(model, d).data(), valueList(model, d).size());
+      readInOrder(file, "a value of a variable", valueList(model, d).data(), valueList(model, d).size());
   }
 }
 
-// The table stands in the file with the last index fastest.
+// Puts numbers that come with the last index fastest into their places in the table, whose first index is fastest.
+class TableFiller {
+ public:
+  explicit TableFiller(Table4& table) : table_(table), run_(lineAxis(table)) {}
+
+  void put(std::span<const double> numbers) {
+    for (const double number : numbers) {
+      line_[at_ * stride_] = number;
+      if (++at_ == length_) nextLine();
+    }
+  }
+
+ private:
+  // A run of numbers is a line along the last axis that has more than one value.
+  static int lineAxis(const Table4& table) {
+    int axis = kMaxVariables - 1;
+    while (axis > 0 && table.last()[axis] == 0) --axis;
+    return axis;
+  }
+
+  void nextLine() {
+    at_ = 0;
+    for (int k = run_ - 1; k >= 0; --k) {
+      if (++index_[k] <= last_[k]) break;
+      index_[k] = 0;
+    }
+    line_ = &table_(index_[0], index_[1], index_[2], index_[3]);
+  }
+
+  Table4& table_;
+  int run_;
+  std::size_t stride_ = table_.stride(run_);
+  std::size_t length_ = table_.extent(run_);
+  PerVariable<Long> last_ = table_.last();
+  PerVariable<Long> index_{};
+  double* line_ = table_.data();
+  std::size_t at_ = 0;
+};
+
 void readFunction(InputFile& file, Dimension& model) {
   model.F.redim(model.LastPoint);
-  const std::size_t n0 = model.F.extent(0), n1 = model.F.extent(1), n2 = model.F.extent(2), n3 = model.F.extent(3);
-  for (std::size_t i0 = 0; i0 < n0; ++i0)
-    for (std::size_t i1 = 0; i1 < n1; ++i1)
-      for (std::size_t i2 = 0; i2 < n2; ++i2) {
-        double* line = model.F.data() + i0 + n0 * (i1 + n1 * i2);
-        file.readDoubles("a value of the function", line, n3, model.F.stride(3));
-      }
+  TableFiller filler(model.F);
+  file.readDoubles("a value of the function", model.F.size(),
+                   [&](std::span<const double> numbers) { filler.put(numbers); });
 }
 
 void readStatistics(InputFile& file, Dimension& model) {

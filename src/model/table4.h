@@ -2,8 +2,10 @@
 
 #include <array>
 #include <cstddef>
+#include <memory>
 #include <vector>
 
+#include "platform/memory.h"
 #include "runtime/long.h"
 
 namespace tavimor {
@@ -13,6 +15,25 @@ constexpr int kMaxVariables = 4;
 /// One entry per variable, declared or not.
 template <class T>
 using PerVariable = std::array<T, kMaxVariables>;
+
+/// Memory for tables: a large one comes in large pages where the system has them, since touching each of its small ones
+/// for the first time would take longer than the whole fit.
+template <class T>
+struct TableAllocator {
+  using value_type = T;
+
+  TableAllocator() = default;
+  template <class U>
+  TableAllocator(const TableAllocator<U>&) {}
+
+  T* allocate(std::size_t count) {
+    T* memory = std::allocator<T>().allocate(count);
+    preferLargePages(memory, count * sizeof(T));
+    return memory;
+  }
+  void deallocate(T* memory, std::size_t count) { std::allocator<T>().deallocate(memory, count); }
+  bool operator==(const TableAllocator&) const = default;
+};
 
 /// A table of doubles over four axes. Its bounds are last indices: axis k runs from 0 to last()[k], so that an axis
 /// whose last index is 0 has extent 1. In memory the first index is the fastest.
@@ -45,7 +66,7 @@ class Table4 {
   std::size_t offset(Long i0, Long i1, Long i2, Long i3) const;
 
   PerVariable<Long> last_{};
-  std::vector<double> elements_;
+  std::vector<double, TableAllocator<double>> elements_;
 };
 
 /// The elements of a table with these bounds. Errors: as Table4.

@@ -9,6 +9,7 @@
 #include "runtime/bad_file.h"
 #include "runtime/number_text.h"
 #include "runtime/numeral.h"
+#include "runtime/print_lines.h"
 #include "runtime/run_time_error.h"
 #include "runtime/text.h"
 
@@ -16,7 +17,7 @@ namespace tavimor {
 
 namespace {
 
-constexpr std::size_t kWindowBytes = 256 * 1024;
+constexpr std::size_t kWindowBytes = 512 * 1024;
 constexpr std::ptrdiff_t kUsualFieldBytes = 64;  // a window with less left is filled before a number is read
 constexpr std::size_t kExcerptBytes = 40;
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
@@ -175,8 +176,19 @@ bool InputFile::readBoolean(const char* item) {
   return isTrue;
 }
 
-void InputFile::readDoubles(const char* item, double* target, std::size_t count, std::size_t stride) {
-  for (std::size_t n = 0; n < count; ++n) target[n * stride] = readDouble(item);
+void InputFile::readDoubles(const char* item, std::size_t count, const TakeNumbers& take) {
+  PrintLines lines;
+  while (count > 0) {
+    if (last_ - at_ < kUsualFieldBytes) fill();
+    at_ = lines.read(at_, last_, count);
+    line_ += static_cast<long>(lines.numbers().size());
+    take(lines.numbers());
+    count -= lines.numbers().size();
+    if (count == 0 || !lines.numbers().empty()) continue;
+    const double number = readDouble(item);
+    take({&number, 1});
+    --count;
+  }
 }
 
 void InputFile::expectEnd() {

@@ -2,7 +2,9 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <limits>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -34,8 +36,9 @@ class InputFile {
   /// "#TRUE#" or "#FALSE#".
   bool readBoolean(const char* item);
 
-  /// `count` numbers; number n goes to target[n * stride].
-  void readDoubles(const char* item, double* target, std::size_t count, std::size_t stride = 1);
+  /// `count` numbers, handed to `take` in their order, many at a time.
+  using TakeNumbers = std::function<void(std::span<const double>)>;
+  void readDoubles(const char* item, std::size_t count, const TakeNumbers& take);
 
   /// Only blank lines may follow: anything else is an error.
   void expectEnd();

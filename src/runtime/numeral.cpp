@@ -23,30 +23,33 @@ constexpr int kLargestExactPower = static_cast<int>(kExactPowersOfTen.size()) - 
 constexpr int kDigitsInWord = std::numeric_limits<std::uint64_t>::digits10;  // 19: no overflow up to here
 constexpr int kExponentLimit = 100000;  // beyond any double, far from overflowing an int
 
+constexpr std::array<std::uint64_t, 9> kPowersOfTen = {1, 10, 100, 1000, 10000, 100000, 1000000, 10000000, 100000000};
+
 struct Digits {
   std::uint64_t whole = 0;  // the digits as one whole number, valid for up to kDigitsInWord of them
-  int count = 0;
-  int significant = 0;  // the digits from the first one that is not zero
-  int behindPoint = 0;
+  std::ptrdiff_t count = 0;
 };
 
 bool isDigit(char c) { return c >= '0' && c <= '9'; }
 
-std::uint64_t eightBytes(const char* at) {
+// Eight characters as one word, the first one in the lowest byte, each less the character '0': a digit becomes its
+// value, anything else more than 9.
+std::uint64_t eightCharacters(const char* at) {
   std::uint64_t word = 0;
   std::memcpy(&word, at, sizeof word);
-  return word;
+  return word ^ 0x3030303030303030;
 }
 
-bool areEightDigits(std::uint64_t word) {
-  constexpr std::uint64_t high = 0xF0F0F0F0F0F0F0F0;
-  return ((word & high) | (((word + 0x0606060606060606) & high) >> 4)) == 0x3333333333333333;
+// The number of digits before the first character that is none, 8 where all are digits. A byte above 9 carries into
+// its high bit, or has it; what it carries beyond only meets later characters.
+int leadingDigits(std::uint64_t word) {
+  const std::uint64_t marks = ((word + 0x7676767676767676) | word) & 0x8080808080808080;
+  return std::countr_zero(marks) / 8;
 }
 
 // Neighbouring digits are joined to pairs, the pairs to fours, the fours to eight, each step within one word.
 std::uint64_t eightDigitsValue(std::uint64_t word) {
   constexpr std::uint64_t pairs = 0x000000FF000000FF;
-  word -= 0x3030303030303030;
   word = word * 10 + (word >> 8);
   return ((word & pairs) * (100 + (std::uint64_t{1000000} << 32)) +
           ((word >> 16) & pairs) * (1 + (std::uint64_t{10000} << 32))) >>
@@ -54,23 +57,23 @@ std::uint64_t eightDigitsValue(std::uint64_t word) {
 }
 
 const char* scanDigits(const char* at, const char* last, Digits& digits) {
+  const char* const first = at;
   if constexpr (std::endian::native == std::endian::little) {
-    while (last - at >= 8 && areEightDigits(eightBytes(at))) {
-      const std::uint64_t eight = eightDigitsValue(eightBytes(at));
-      if (digits.significant > 0)
-        digits.significant += 8;
-      else if (eight != 0)
-        digits.significant = static_cast<int>(at + 8 - std::find_if(at, at + 8, [](char c) { return c != '0'; }));
-      digits.whole = digits.whole * 100000000 + eight;
-      digits.count += 8;
-      at += 8;
+    while (last - at >= 8) {
+      const std::uint64_t word = eightCharacters(at);
+      const int count = leadingDigits(word);
+      // Zeros are shifted in before the digits; in two steps, since 64 places at once are not defined.
+      const std::uint64_t value = eightDigitsValue(word << 4 * (8 - count) << 4 * (8 - count));
+      digits.whole = digits.whole * kPowersOfTen[count] + value;
+      at += count;
+      if (count < 8) {
+        digits.count += at - first;
+        return at;
+      }
     }
   }
-  for (; at != last && isDigit(*at); ++at) {
-    if (digits.significant > 0 || *at != '0') ++digits.significant;
-    digits.whole = digits.whole * 10 + static_cast<std::uint64_t>(*at - '0');
-    ++digits.count;
-  }
+  for (; at != last && isDigit(*at); ++at) digits.whole = digits.whole * 10 + static_cast<std::uint64_t>(*at - '0');
+  digits.count += at - first;
   return at;
 }
 
@@ -96,29 +99,34 @@ Numeral scanWord(const char* first, const char* last) {
   return {0.0, first};
 }
 
-double roundedByLibrary(const char* first, const char* end, int powerOfTen, int significant) {
+// The exponent that the number has in scientific notation: the power of ten of its first digit that is not zero.
+long scientificExponent(const char* first, long powerOfTen, std::ptrdiff_t digitCount) {
+  std::ptrdiff_t leadingZeros = 0;
+  for (; *first == '0' || *first == '.'; ++first)
+    if (*first == '0') ++leadingZeros;
+  return powerOfTen + static_cast<long>(digitCount - leadingZeros) - 1;
+}
+
+double roundedByLibrary(const char* first, const char* end, long powerOfTen, std::ptrdiff_t digitCount) {
   double value = 0.0;
   if (std::from_chars(first, end, value).ec == std::errc::result_out_of_range)
-    return powerOfTen + significant > 0 ? std::numeric_limits<double>::infinity() : 0.0;
+    return scientificExponent(first, powerOfTen, digitCount) > 0 ? std::numeric_limits<double>::infinity() : 0.0;
   return value;
 }
 
 Numeral scanUnsigned(const char* first, const char* last) {
   Digits digits;
   const char* at = scanDigits(first, last, digits);
-  if (at != last && *at == '.') {
-    const int beforePoint = digits.count;
-    at = scanDigits(at + 1, last, digits);
-    digits.behindPoint = digits.count - beforePoint;
-  }
+  const std::ptrdiff_t beforePoint = digits.count;
+  if (at != last && *at == '.') at = scanDigits(at + 1, last, digits);
   if (digits.count == 0) return scanWord(first, last);
   int exponent = 0;
   at = scanExponent(at, last, exponent);
 
-  const int powerOfTen = exponent - digits.behindPoint;
+  const long powerOfTen = exponent - static_cast<long>(digits.count - beforePoint);
   const bool exact = digits.count <= kDigitsInWord && digits.whole <= kLargestExactWhole &&
                      powerOfTen >= -kLargestExactPower && powerOfTen <= kLargestExactPower;
-  if (!exact) return {roundedByLibrary(first, at, powerOfTen, digits.significant), at};
+  if (!exact) return {roundedByLibrary(first, at, powerOfTen, digits.count), at};
   const double whole = static_cast<double>(digits.whole);
   if (powerOfTen < 0) return {whole / kExactPowersOfTen[-powerOfTen], at};
   return {whole * kExactPowersOfTen[powerOfTen], at};

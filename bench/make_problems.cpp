@@ -1,0 +1,12 @@
+// Writes the measured problems as pairs into a folder:
+//   make-problems FOLDER
+#include <filesystem>
+
+#include "model/problem_writer.h"
+#include "problem_sizes.h"
+
+int main(int, char** argv) {
+  std::filesystem::create_directories(argv[1]);
+  for (const auto& size : tavimor::bench::kProblemSizes)
+    tavimor::writeProblem(tavimor::bench::makeProblem(size), (std::filesystem::path(argv[1]) / size.name).string());
+}

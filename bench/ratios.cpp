@@ -1,0 +1,132 @@
+// Measures the plain loops and the engine in turn, in one run, and prints ratios: these machines are noisy, and a
+// ratio of neighbours in time says more than two times. Each number is the median over the pairs.
+//   bench-ratios FOLDER-OF-PROGRAMS FOLDER-OF-PROBLEMS
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <functional>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "engine/right_hand_side.h"
+#include "model/var_values.h"
+#include "peak.h"
+#include "plain_fit.h"
+#include "problem_sizes.h"
+
+namespace {
+
+using namespace tavimor;
+using namespace tavimor::bench;
+
+constexpr int kPairs = 15;
+
+double secondsOf(const std::function<void()>& work) {
+  const auto start = std::chrono::steady_clock::now();
+  work();
+  return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+}
+
+double median(std::vector<double> values) {
+  std::sort(values.begin(), values.end());
+  return values[values.size() / 2];
+}
+
+plain::Problem plainProblem(const Dimension& model) {
+  plain::Problem problem;
+  problem.lastVar = model.LastVar;
+  for (Long k = 0; k < kMaxVariables; ++k) {
+    problem.centre[k] = model.Centre[k];
+    problem.degree[k] = model.Degree[k];
+    problem.lastPoint[k] = model.LastPoint[k];
+    problem.x[k] = valueList(model, k);
+  }
+  problem.f.assign(model.F.data(), model.F.data() + model.F.size());
+  return problem;
+}
+
+const char* nameOf(InstructionSet set) {
+  switch (set) {
+    case InstructionSet::Plain: return "plain loops";
+    case InstructionSet::Baseline: return "baseline";
+    case InstructionSet::Avx2: return "AVX2";
+    case InstructionSet::Avx512: return "AVX-512";
+  }
+  return "";
+}
+
+void compareRightHandSides(const ProblemSize& size, double peak) {
+  Dimension model = makeProblem(size);
+  plain::Problem problem = plainProblem(model);
+  ComputeOptions options;
+  options.threads = 1;
+  std::vector<double> ratios, shares;
+  for (int pair = 0; pair < kPairs; ++pair) {
+    const double plainTime = secondsOf([&] { plain::accumulateRightHandSide(problem); });
+    const double ourTime = secondsOf([&] { accumulateRightHandSide(model, options); });
+    ratios.push_back(plainTime / ourTime);
+    shares.push_back(static_cast<double>(model.F.size()) * static_cast<double>(model.Coef.size()) / ourTime / peak);
+  }
+  std::printf("%-4s right-hand side, 1 thread: plain / ours %5.1f   share of the peak %3.0f %%\n", size.name,
+              median(ratios), 100 * median(shares));
+}
+
+// What a process took: its time from start to end, and the most memory that it held.
+struct ProcessCost {
+  double seconds = 0.0;
+  long kilobytes = 0;
+};
+
+struct Programs {
+  std::string folder;
+  std::string problems;
+
+  ProcessCost cost(const std::string& program, const std::string& arguments) const {
+    const std::string command = folder + "/process-cost " + folder + "/" + program + " " + arguments;
+    std::FILE* output = popen(command.c_str(), "r");
+    ProcessCost cost;
+    const bool read = output != nullptr && std::fscanf(output, "%lf %ld", &cost.seconds, &cost.kilobytes) == 2;
+    if (!read || pclose(output) != 0) throw std::runtime_error("cannot run " + command);
+    return cost;
+  }
+
+  ProcessCost plain(const ProblemSize& size) const { return cost("plain-fit", problems + "/" + size.name); }
+  ProcessCost ours(const ProblemSize& size) const { return cost("tavimor-cli", "fit " + problems + "/" + size.name); }
+};
+
+void compareProcesses(const ProblemSize& size, const Programs& programs) {
+  std::vector<double> ratios, memory, plainTimes, ourTimes;
+  for (int pair = 0; pair < kPairs; ++pair) {
+    const ProcessCost plainCost = programs.plain(size);
+    const ProcessCost ourCost = programs.ours(size);
+    ratios.push_back(plainCost.seconds / ourCost.seconds);
+    memory.push_back(static_cast<double>(ourCost.kilobytes) / static_cast<double>(plainCost.kilobytes));
+    plainTimes.push_back(plainCost.seconds);
+    ourTimes.push_back(ourCost.seconds);
+  }
+  std::printf("%-4s whole process: plain / ours %5.1f (%.1f / %.1f ms)   peak memory: ours / plain %.2f\n", size.name,
+              median(ratios), 1e3 * median(plainTimes), 1e3 * median(ourTimes), median(memory));
+}
+
+void compareStartUp(const Programs& programs) {
+  std::vector<double> ratios;
+  for (int pair = 0; pair < 4 * kPairs; ++pair) {
+    const double emptyTime = programs.cost("empty-program", "").seconds;
+    ratios.push_back(programs.ours(kProblemSizes[0]).seconds / emptyTime);
+  }
+  std::printf("S    whole process: ours / an empty C++ program %.2f\n", median(ratios));
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  if (argc != 3) return 2;
+  const double peak = multiplyAddPeak(widestInstructionSet());
+  std::printf("Instruction set: %s, %.1f thousand million multiply-and-adds per second at most in one thread\n",
+              nameOf(widestInstructionSet()), peak / 1e9);
+  for (const ProblemSize& size : kProblemSizes) compareRightHandSides(size, peak);
+  const Programs programs{argv[1], argv[2]};
+  compareStartUp(programs);
+  for (const ProblemSize& size : kProblemSizes) compareProcesses(size, programs);
+}

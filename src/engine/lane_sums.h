@@ -1,0 +1,51 @@
+#pragma once
+
+#include <cstddef>
+
+#include "engine/axis.h"
+#include "engine/compute_options.h"
+
+namespace tavimor {
+
+/// The sums of a fit in vector registers. A lane holds one chain of additions: the sum of one term, or of one element
+/// of a normal matrix, over the points in their order. So every sum is the one that the plain loops give, to the bit,
+/// and speed comes from many chains side by side.
+
+/// A grid and the terms whose sums over it are wanted: f at the points, the first index fastest; the axes; the number
+/// of terms (degree + 1) of each.
+struct TermGrid {
+  const double* f;
+  Axis axis[4];
+  std::size_t terms[4];
+};
+
+/// The powers of variables 1 to 3 that a term can have make its column; a column has a term for each power of
+/// variable 0. Columns are numbered with the power of variable 1 fastest.
+struct Columns {
+  std::size_t first, end;
+};
+
+/// The routines for one instruction set.
+struct LaneSums {
+  /// The number of sums that a range of columns needs, padding included.
+  std::size_t (*sumCount)(const TermGrid& grid, Columns columns);
+
+  /// Adds the points firstPoint to endPoint - 1 to the sums of the columns. `sums` is zero before the first point.
+  void (*addPoints)(const TermGrid& grid, Columns columns, std::size_t firstPoint, std::size_t endPoint, double* sums);
+
+  /// Writes the sums of the columns to their places in the right-hand side, whose first index is the fastest.
+  void (*collect)(const TermGrid& grid, Columns columns, const double* sums, double* rightHandSide);
+
+  /// Sets the elements on and above the diagonal of the normal matrix of an axis: matrix(a,b), `terms` rows of `terms`
+  /// elements. `sums` is zero and holds normalSumCount(terms) elements.
+  void (*normalMatrix)(const Axis& axis, std::size_t terms, double* sums, double* matrix);
+  std::size_t (*normalSumCount)(std::size_t terms);
+
+  /// line[i] = sum over a of coefficients[a] * d_i^a, a from 0 on, at every value of the axis.
+  void (*evaluateLine)(const double* coefficients, std::size_t terms, const Axis& axis, double* line);
+};
+
+/// Null for Plain: there the plain loops do it all.
+const LaneSums* laneSums(InstructionSet set);
+
+}  // namespace tavimor
