@@ -17,7 +17,8 @@ namespace tavimor {
 
 namespace {
 
-constexpr std::size_t kWindowBytes = 512 * 1024;
+constexpr std::size_t kWindowBytes = 256 * 1024;
+constexpr std::size_t kNumbersAtATime = 4096;
 constexpr std::ptrdiff_t kUsualFieldBytes = 64;  // a window with less left is filled before a number is read
 constexpr std::size_t kExcerptBytes = 40;
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
@@ -177,17 +178,16 @@ bool InputFile::readBoolean(const char* item) {
 }
 
 void InputFile::readDoubles(const char* item, std::size_t count, const TakeNumbers& take) {
-  PrintLines lines;
+  std::vector<double> numbers;
+  numbers.reserve(std::min(count, kNumbersAtATime));
   while (count > 0) {
     if (last_ - at_ < kUsualFieldBytes) fill();
-    at_ = lines.read(at_, last_, count);
-    line_ += static_cast<long>(lines.numbers().size());
-    take(lines.numbers());
-    count -= lines.numbers().size();
-    if (count == 0 || !lines.numbers().empty()) continue;
-    const double number = readDouble(item);
-    take({&number, 1});
-    --count;
+    numbers.clear();
+    at_ = readPrintLines(at_, last_, std::min(count, kNumbersAtATime), numbers);
+    line_ += static_cast<long>(numbers.size());
+    if (numbers.empty()) numbers.push_back(readDouble(item));
+    take(numbers);
+    count -= numbers.size();
   }
 }
 
