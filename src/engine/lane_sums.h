@@ -17,16 +17,25 @@ struct TermGrid {
   const double* f;
   Axis axis[4];
   std::size_t terms[4];
+
+  /// The first axis whose powers are spread over the lanes, 1 or 2. The powers of the axes before it are run through
+  /// in turn by each lane.
+  std::size_t laneAxis;
 };
 
-/// The powers of variables 1 to 3 that a term can have make its column; a column has a term for each power of
-/// variable 0. Columns are numbered with the power of variable 1 fastest.
+/// A column is what a lane works on: the terms with the same powers of the lane axis and of those behind it. Columns
+/// are numbered with the power of the lane axis fastest.
 struct Columns {
   std::size_t first, end;
 };
 
 /// The routines for one instruction set.
 struct LaneSums {
+  std::size_t lanes;
+
+  /// The lane axis that gives the least work for these terms.
+  std::size_t (*bestLaneAxis)(const std::size_t terms[4]);
+
   /// The number of sums that a range of columns needs, padding included.
   std::size_t (*sumCount)(const TermGrid& grid, Columns columns);
 

@@ -57,13 +57,14 @@ void accumulatePlainly(const Table4& f, const Axes& axis, Table4& coef) {
   }
 }
 
-TermGrid termGrid(const Table4& f, const Axes& axis, const Table4& coef) {
+TermGrid termGrid(const LaneSums& lanes, const Table4& f, const Axes& axis, const Table4& coef) {
   TermGrid grid{};
   grid.f = f.data();
   for (int k = 0; k < kMaxVariables; ++k) {
     grid.axis[k] = axis[k];
     grid.terms[k] = coef.extent(k);
   }
+  grid.laneAxis = lanes.bestLaneAxis(grid.terms);
   return grid;
 }
 
@@ -79,11 +80,12 @@ void accumulateColumns(const LaneSums& lanes, const TermGrid& grid, Columns colu
 
 void accumulateInLanes(const LaneSums& lanes, const Table4& f, const Axes& axis, Table4& coef,
                        const ComputeOptions& options) {
-  const TermGrid grid = termGrid(f, axis, coef);
-  const std::size_t columns = coef.size() / coef.extent(0);
-  const double workOfColumn = static_cast<double>(f.size()) * static_cast<double>(coef.extent(0));
-  inParallel(columns, workOfColumn, options.threads, [&](std::size_t first, std::size_t end) {
-    accumulateColumns(lanes, grid, {first, end}, f.size(), coef.data(),
+  const TermGrid grid = termGrid(lanes, f, axis, coef);
+  const std::size_t columns = coef.size() / coef.stride(static_cast<int>(grid.laneAxis));
+  const std::size_t groups = (columns + lanes.lanes - 1) / lanes.lanes;  // full ones, as far as there are
+  const double work = static_cast<double>(f.size()) * static_cast<double>(coef.size());
+  inParallel(groups, work / static_cast<double>(groups), options.threads, [&](std::size_t first, std::size_t end) {
+    accumulateColumns(lanes, grid, {first * lanes.lanes, std::min(end * lanes.lanes, columns)}, f.size(), coef.data(),
                       first == 0 ? options.progress : std::function<void(double)>());
   });
 }

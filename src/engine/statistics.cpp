@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "engine/resume_next.h"
+#include "platform/memory.h"
 
 namespace tavimor {
 
@@ -17,7 +18,7 @@ double sumOfGiven(const Table4& f) {
 namespace {
 
 constexpr std::size_t kStripWidth = 8;      // a cache line of neighbouring first indices
-constexpr std::size_t kLongFirstAxis = 64;  // with a shorter one the points of a first index lie close enough together
+constexpr std::size_t kLongFirstAxis = 64;  // with a shorter one a whole strip would take too much memory
 
 // Calls body(offset) for the points whose first index is 0, in the order of the sums: i1 outermost, i3 innermost.
 template <class Body>
@@ -28,44 +29,66 @@ void forOuterAxes(const Table4& table, Body body) {
       for (std::size_t i3 = 0; i3 < n3; ++i3) body(table.stride(1) * (i1 + n1 * (i2 + n2 * i3)));
 }
 
-// Adds points in their order. The sums are locals, so that the four chains stay in registers.
+// Adds points in their order.
 class PointSums {
  public:
   explicit PointSums(double avgGiven) : avgGiven_(avgGiven) {}
 
-  void addRun(const double* f, const double* e, std::size_t count) {
-    GridSums sums = sums_;
-    for (std::size_t n = 0; n < count; ++n) add(sums, f[n], e[n]);
-    sums_ = sums;
-  }
-
-  void addFirstIndex(const Table4& f, const Table4& fitGrid, std::size_t i0) {
-    GridSums sums = sums_;
-    forOuterAxes(f, [&](std::size_t offset) { add(sums, f.data()[offset + i0], fitGrid.data()[offset + i0]); });
-    sums_ = sums;
-  }
-
   const GridSums& sums() const { return sums_; }
 
- private:
-  void add(GridSums& sums, double f, double e) const {
-    sums.SumEstimated += e;
-    sums.SumSqRegression += (avgGiven_ - e) * (avgGiven_ - e);
-    sums.SumRes2 += (f - e) * (f - e);
-    sums.SumSqTotal += (avgGiven_ - f) * (avgGiven_ - f);
+  // The points of one first index of a table, where they lie.
+  void addFirstIndex(const Table4& f, const Table4& fitGrid, std::size_t i0) {
+    GridSums sums = sums_;
+    forOuterAxes(f, [&](std::size_t offset) {
+      const double given = f.data()[offset + i0];
+      const double e = fitGrid.data()[offset + i0];
+      sums.SumEstimated += e;
+      sums.SumSqRegression += square(avgGiven_ - e);
+      sums.SumRes2 += square(given - e);
+      sums.SumSqTotal += square(avgGiven_ - given);
+    });
+    sums_ = sums;
   }
+
+  // A run of points. The squares are independent of each other, the sums are four chains: apart, both go at their best.
+  void addRun(const double* f, const double* e, std::size_t count) {
+    constexpr std::size_t block = 256;
+    double regression[block], residuals[block], total[block];
+    for (std::size_t first = 0; first < count; first += block) {
+      const std::size_t length = std::min(block, count - first);
+      for (std::size_t n = 0; n < length; ++n) {
+        regression[n] = square(avgGiven_ - e[first + n]);
+        residuals[n] = square(f[first + n] - e[first + n]);
+        total[n] = square(avgGiven_ - f[first + n]);
+      }
+      GridSums sums = sums_;
+      for (std::size_t n = 0; n < length; ++n) {
+        sums.SumEstimated += e[first + n];
+        sums.SumSqRegression += regression[n];
+        sums.SumRes2 += residuals[n];
+        sums.SumSqTotal += total[n];
+      }
+      sums_ = sums;
+    }
+  }
+
+ private:
+  static double square(double x) { return x * x; }
 
   double avgGiven_;
   GridSums sums_;
 };
 
-// A strip of the table turned, so that the points of each first index follow one another.
+// A strip of the table turned, so that the points of each first index follow one another. The next strip lies beside
+// this one in memory: it is asked for at the same time.
 void turnStrip(const Table4& table, std::size_t first, std::size_t width, std::vector<double>& turned) {
   const std::size_t length = table.size() / table.extent(0);
   turned.resize(width * length);
   std::size_t n = 0;
   forOuterAxes(table, [&](std::size_t offset) {
-    for (std::size_t i = 0; i < width; ++i) turned[i * length + n] = table.data()[offset + first + i];
+    const double* from = table.data() + offset + first;
+    prefetch(from + kStripWidth);
+    for (std::size_t i = 0; i < width; ++i) turned[i * length + n] = from[i];
     ++n;
   });
 }
