@@ -1,0 +1,65 @@
+#include "engine/fit_on_grid.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+#include "runtime/run_time_error.h"
+#include "support/problem.h"
+
+namespace tavimor {
+namespace {
+
+using test::problem;
+
+TEST(Deviation, IsTheDistanceOfAValueFromTheCentre) {
+  const Dimension model = problem({{"a", {1, 2}, 0, 0.5}, {"b", {3, 7}, 0, 10}});
+  EXPECT_EQ(Deviation(model, 0, 1), 1.5);
+  EXPECT_EQ(Deviation(model, 1, 0), -7.0);
+}
+
+TEST(Deviation, OfAVariableThatDoesNotExistIsZero) {
+  const Dimension model = problem({{"a", {1, 2}, 0, 0.5}});
+  EXPECT_EQ(Deviation(model, 4, 0), 0.0);
+  EXPECT_EQ(Deviation(model, -1, 99), 0.0);
+}
+
+TEST(Deviation, BeyondTheListIsASubscriptError) {
+  const Dimension model = problem({{"a", {1, 2}, 0, 0.5}});
+  EXPECT_THROW(Deviation(model, 0, 2), RunTimeError);
+  EXPECT_THROW(Deviation(model, 0, -1), RunTimeError);
+}
+
+TEST(FitOnGrid, IsThePolynomialAtEveryGridPoint) {
+  Dimension model =
+      problem({{"a", {-1, 0, 2}, 2, 1}, {"b", {3, 4}, 1, 0}, {"c", {0, 1, 2, 5}, 3, 2}, {"d", {-2, 2}, 1, -1}});
+  model.Coef.redim(model.Degree);
+  for (std::size_t n = 0; n < model.Coef.size(); ++n) model.Coef.data()[n] = static_cast<double>(n % 7) - 3;
+  FitOnGrid(model);
+  ASSERT_EQ(model.FitGrid.last(), model.LastPoint);
+  test::forEachIndex(model.LastPoint, [&](Long i0, Long i1, Long i2, Long i3) {
+    double sum = 0.0;
+    test::forEachIndex(model.Degree, [&](Long j0, Long j1, Long j2, Long j3) {
+      sum += model.Coef(j0, j1, j2, j3) * std::pow(model.X0[i0] - 1, j0) * std::pow(model.X1[i1], j1) *
+             std::pow(model.X2[i2] - 2, j2) * std::pow(model.X3[i3] + 1, j3);
+    });
+    EXPECT_EQ(model.FitGrid(i0, i1, i2, i3), sum) << i0 << i1 << i2 << i3;  // whole numbers: exact in any order
+  });
+}
+
+TEST(FitOnGrid, ADegreeAboveTheLastIndexIsASubscriptError) {
+  Dimension model = problem({{"a", {1, 2}, 2, 0}});
+  model.Coef.redim(model.Degree);
+  EXPECT_THROW(FitOnGrid(model), RunTimeError);
+}
+
+TEST(FitOnGrid, TakesADegreeEqualToTheLastIndex) {
+  Dimension model = problem({{"a", {1, 2, 3}, 2, 0}});
+  model.Coef.redim(model.Degree);
+  model.Coef(2, 0, 0, 0) = 1;
+  FitOnGrid(model);
+  EXPECT_EQ(model.FitGrid(2, 0, 0, 0), 9.0);
+}
+
+}  // namespace
+}  // namespace tavimor
