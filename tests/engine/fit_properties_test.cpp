@@ -28,8 +28,8 @@ class RandomProblem : public testing::TestWithParam<unsigned> {
   int whole(int least, int most) { return std::uniform_int_distribution<int>(least, most)(random); }
 
   std::vector<double> distinctValues(int count) {
-    std::vector<double> values;
-    for (int i = 0; i < count; ++i) values.push_back(-1 + 2.0 * (i + number(0.1, 0.9)) / count);
+    std::vector<double> values(count);
+    for (int i = 0; i < count; ++i) values[i] = -1 + 2.0 * (i + number(0.1, 0.9)) / count;
     std::shuffle(values.begin(), values.end(), random);
     return values;
   }
@@ -89,6 +89,7 @@ TEST_P(RandomProblem, PermutingTheVariablesPermutesTheCoefficients) {
   std::iota(order.begin(), order.end(), 0u);
   std::shuffle(order.begin(), order.end(), random);
   std::vector<test::Axis> permutedAxes;
+  permutedAxes.reserve(axes.size());
   for (const std::size_t k : order) permutedAxes.push_back(axes[k]);
 
   Dimension model = problem(axes);

@@ -15,25 +15,31 @@ struct TermCase {
 };
 
 // The texts of one variable t; the two flags act each on its own.
-const TermCase kCases[] = {
-    {"PowersAboutZero", 0, true, false, {"", "*t", "*t^2", "*t^3"}},
-    {"PowersAboutAPositiveCentre", 1.5, true, false, {"", "*(t-1.5)", "*(t-1.5)^2", "*(t-1.5)^3"}},
-    {"PowersAboutANegativeCentre", -2, true, false, {"", "*(t+2)", "*(t+2)^2"}},
-    {"PowersAboutANegativeFraction", -0.25, true, false, {"", "*(t+0.25)"}},
-    {"PowersAboutATinyCentre", 1.5e-7, true, false, {"", "*(t-1.5E-07)"}},
-    {"WavesAboutZero", 0, false, true, {"", "*sin(t)", "*cos(t)", "*sin(2*t)", "*cos(2*t)", "*sin(3*t)", "*cos(3*t)"}},
-    {"WavesAboutAPositiveCentre",
-     1,
-     false,
-     true,
-     {"", "*sin(t-1)", "*cos(t-1)", "*sin(2*(t-1))", "*cos(2*(t-1))", "*sin(3*(t-1))"}},
-    {"WavesAboutANegativeCentre", -1, false, true, {"", "*sin(t+1)", "*cos(t+1)", "*sin(2*(t+1))"}},
-    // A file may say "no powers" while nothing closes the brackets.
-    {"WavesWithoutTrigFlagAboutZero", 0, false, false, {"", "*sin(t", "*cos(t", "*sin(2*t", "*cos(2*t"}},
-    {"WavesWithoutTrigFlagAboutACentre", 1, false, false, {"", "*sin(t-1)", "*cos(t-1)", "*sin(2*(t-1)"}},
-    {"PowersWithTrigFlagAboutZero", 0, true, true, {"", "*t)", "*t)^2", "*t)^3"}},
-    {"PowersWithTrigFlagAboutACentre", 1, true, true, {"", "*(t-1)", "*(t-1)^2", "*(t-1)^3)"}},
-};
+std::vector<TermCase> termCases() {
+  return {
+      {"PowersAboutZero", 0, true, false, {"", "*t", "*t^2", "*t^3"}},
+      {"PowersAboutAPositiveCentre", 1.5, true, false, {"", "*(t-1.5)", "*(t-1.5)^2", "*(t-1.5)^3"}},
+      {"PowersAboutANegativeCentre", -2, true, false, {"", "*(t+2)", "*(t+2)^2"}},
+      {"PowersAboutANegativeFraction", -0.25, true, false, {"", "*(t+0.25)"}},
+      {"PowersAboutATinyCentre", 1.5e-7, true, false, {"", "*(t-1.5E-07)"}},
+      {"WavesAboutZero",
+       0,
+       false,
+       true,
+       {"", "*sin(t)", "*cos(t)", "*sin(2*t)", "*cos(2*t)", "*sin(3*t)", "*cos(3*t)"}},
+      {"WavesAboutAPositiveCentre",
+       1,
+       false,
+       true,
+       {"", "*sin(t-1)", "*cos(t-1)", "*sin(2*(t-1))", "*cos(2*(t-1))", "*sin(3*(t-1))"}},
+      {"WavesAboutANegativeCentre", -1, false, true, {"", "*sin(t+1)", "*cos(t+1)", "*sin(2*(t+1))"}},
+      // A file may say "no powers" while nothing closes the brackets.
+      {"WavesWithoutTrigFlagAboutZero", 0, false, false, {"", "*sin(t", "*cos(t", "*sin(2*t", "*cos(2*t"}},
+      {"WavesWithoutTrigFlagAboutACentre", 1, false, false, {"", "*sin(t-1)", "*cos(t-1)", "*sin(2*(t-1)"}},
+      {"PowersWithTrigFlagAboutZero", 0, true, true, {"", "*t)", "*t)^2", "*t)^3"}},
+      {"PowersWithTrigFlagAboutACentre", 1, true, true, {"", "*(t-1)", "*(t-1)^2", "*(t-1)^3)"}},
+  };
+}
 
 class TermText : public testing::TestWithParam<TermCase> {};
 
@@ -47,7 +53,8 @@ TEST_P(TermText, IsWrittenByFlagsCentreAndIndex) {
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(Cases, TermText, testing::ValuesIn(kCases), [](const auto& set) { return set.param.name; });
+INSTANTIATE_TEST_SUITE_P(Cases, TermText, testing::ValuesIn(termCases()),
+                         [](const auto& set) { return set.param.name; });
 
 TEST(TermTextOfVariables, JoinsTheFactorsInTheOrderOfTheVariables) {
   Dimension model = test::problem({{"x", {0, 1}, 0, 0}, {"y", {0, 1}, 0, 0.5}, {"z", {0, 1}, 0, -3}});

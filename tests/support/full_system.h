@@ -40,6 +40,7 @@ inline Matrix fullNormalEquations(const Dimension& model) {
   Matrix system(terms.size(), std::vector<long double>(terms.size() + 1));
   for (const auto& i : allIndices(model.LastPoint)) {
     std::vector<long double> values;
+    values.reserve(terms.size());
     for (const auto& j : terms) values.push_back(term(model, j, gridPoint(model, i)));
     for (std::size_t a = 0; a < terms.size(); ++a) {
       for (std::size_t b = 0; b < terms.size(); ++b) system[a][b] += values[a] * values[b];

@@ -20,8 +20,8 @@ struct Axis {
 };
 
 inline std::vector<double> spaced(double lower, double upper, int count) {
-  std::vector<double> values;
-  for (int i = 0; i < count; ++i) values.push_back(lower + i * ((upper - lower) / (count - 1)));
+  std::vector<double> values(count);
+  for (int i = 0; i < count; ++i) values[i] = lower + i * ((upper - lower) / (count - 1));
   return values;
 }
 
