@@ -1,0 +1,124 @@
+#include "cli/arguments.h"
+
+#include <CLI/CLI.hpp>
+#include <algorithm>
+
+#include "runtime/numeral.h"
+
+namespace tavimor {
+
+namespace {
+
+struct Command {
+  const char* name;
+  const char* does;
+  const char* example;
+};
+
+constexpr Command kCommands[] = {
+    {"fit", "Fit the problem and print the results listing", "fit ozone -o ozone-fitted"},
+    {"show", "Print the specifications and the stored results", "show ozone-fitted"},
+    {"eval", "Print the estimate at a point, or at each point on standard input", "eval sound-speed 10 35 1000"},
+    {"report", "Print the report: specifications, results and data", "report ozone-fitted"},
+    {"copy", "Open the problem and save it under another name", "copy ozone ozone-2"},
+};
+
+std::string exampleLine(const Command& command) { return std::string("tavimor-cli ") + command.example; }
+
+std::string refusalOfEmptyName(const std::string& name) { return name.empty() ? "a file name is needed" : ""; }
+
+// A positional without the type and the word REQUIRED that would stand beside it in the help.
+CLI::Option* plainly(CLI::Option* option) { return option->option_text(" "); }
+
+CLI::App* addCommand(CLI::App& app, Arguments& arguments, const Command& command) {
+  CLI::App* added = app.add_subcommand(command.name, command.does);
+  added->group("Commands");
+  added->footer("Example:\n  " + exampleLine(command));
+  plainly(added->add_option("PROBLEM", arguments.problem, "the specification file; its values stand in PROBLEM.dat"))
+      ->required()
+      ->check(refusalOfEmptyName);
+  return added;
+}
+
+void addCommands(CLI::App& app, Arguments& arguments) {
+  std::string examples = "Examples:";
+  for (const Command& command : kCommands) {
+    addCommand(app, arguments, command);
+    examples += "\n  " + exampleLine(command);
+  }
+  app.footer(examples +
+             "\nExit status: 0 done, 1 an error, 2 wrong usage, 3 no fit (a singular matrix, or too high a degree).");
+  app.get_subcommand("fit")
+      ->add_option("-o,--output", arguments.output, "save the fitted problem as OUT and OUT.dat")
+      ->type_name("OUT")
+      ->check(refusalOfEmptyName);
+  plainly(app.get_subcommand("eval")->add_option("VALUE", arguments.values,
+                                                 "one value per variable; without any, one point a line is read"));
+  plainly(app.get_subcommand("copy")->add_option("OUT", arguments.output, "the copy's name: OUT and OUT.dat"))
+      ->required()
+      ->check(refusalOfEmptyName);
+}
+
+bool isNegativeNumber(const std::string& word) {
+  return word.starts_with('-') && scanNumeral(word.data(), word.data() + word.size()).end != word.data();
+}
+
+bool isHelp(const std::string& word) { return word == "-h" || word == "--help"; }
+
+// The parser would take "-.5" and "-INF" for options. Behind "--" every word is taken as it stands; it has to come
+// before the first value, because the parser ends a command at a "--" within a list.
+void protectNegativeNumbers(std::vector<std::string>& words) {
+  if (words.empty() || words.front() != "eval") return;
+  if (std::none_of(words.begin(), words.end(), isNegativeNumber)) return;
+  if (std::any_of(words.begin(), words.end(), isHelp)) return;
+  std::erase(words, "--");
+  words.insert(words.begin() + 1, "--");
+}
+
+std::string complaint(const CLI::App& app, const CLI::ParseError& error) {
+  std::vector<std::string> unexpected = app.remaining(true);
+  std::erase(unexpected, "--");
+  const bool hasCommand = !app.get_subcommands().empty();
+  if (!unexpected.empty()) return (hasCommand ? "unexpected argument \"" : "no such command: \"") + unexpected[0] + '"';
+  if (dynamic_cast<const CLI::ArgumentMismatch*>(&error) != nullptr) return "--output: a file name is needed";
+  return hasCommand ? error.what() : "a command is needed";
+}
+
+std::string helpOf(const CLI::App& app) {
+  const auto commands = app.get_subcommands();
+  return commands.empty() ? app.help() : commands.front()->help("tavimor-cli");
+}
+
+}  // namespace
+
+ParsedArguments parseArguments(std::vector<std::string> words) {
+  ParsedArguments parsed;
+  CLI::App app("Fits the full tensor-product polynomial to a function tabulated on a grid, by least squares.",
+               "tavimor-cli");
+  app.set_version_flag("--version", "tavimor-cli " TAVIMOR_VERSION, "Print the version and exit");
+  app.set_help_flag("-h,--help", "Print this help and exit");
+  app.get_formatter()->label("SUBCOMMAND", "COMMAND");
+  app.get_formatter()->label("Positionals", "Arguments");
+  app.require_subcommand(1);
+  addCommands(app, parsed.arguments);
+
+  protectNegativeNumbers(words);
+  std::reverse(words.begin(), words.end());  // the order in which the parser takes them
+  try {
+    app.parse(words);
+    parsed.arguments.command = app.get_subcommands().front()->get_name();
+    parsed.arguments.help = helpOf(app);
+  } catch (const CLI::CallForVersion& version) {
+    parsed.exitCode = ExitCode::Success;
+    parsed.message = version.what() + std::string("\n");
+  } catch (const CLI::CallForHelp&) {
+    parsed.exitCode = ExitCode::Success;
+    parsed.message = helpOf(app);
+  } catch (const CLI::ParseError& error) {
+    parsed.exitCode = ExitCode::Usage;
+    parsed.message = "tavimor-cli: " + complaint(app, error) + '\n' + helpOf(app);
+  }
+  return parsed;
+}
+
+}  // namespace tavimor

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "cli/commands.h"
+
+namespace tavimor {
+
+/// What the words of a command line ask for.
+struct Arguments {
+  std::string command;
+  std::string problem;
+  std::string output;               // empty: none
+  std::vector<std::string> values;  // of the point to evaluate
+  std::string help;                 // of the command
+};
+
+/// Either arguments to run with or, where there is an exit code, the text to leave the user with: help or version for
+/// standard output, or what is wrong with the words and the help that goes with them for standard error.
+struct ParsedArguments {
+  Arguments arguments;
+  std::optional<ExitCode> exitCode;
+  std::string message;
+};
+
+ParsedArguments parseArguments(std::vector<std::string> words);
+
+}  // namespace tavimor

@@ -1,0 +1,30 @@
+#include "cli/output.h"
+
+#include <cerrno>
+#include <cstdio>
+
+#include "runtime/run_time_error.h"
+
+namespace tavimor {
+
+namespace {
+
+void require(bool written) {
+  if (!written) throw fileError(errno, "standard output");
+}
+
+}  // namespace
+
+void printLine(const std::string& line) {
+  require(std::fwrite(line.data(), 1, line.size(), stdout) == line.size());
+  require(std::fputc('\n', stdout) != EOF);
+}
+
+void finishOutput() { require(std::fflush(stdout) == 0); }
+
+void complain(const std::string& path, const std::string& reason) {
+  const std::string name = path.empty() ? "\"\"" : path;
+  std::fprintf(stderr, "tavimor-cli: %s: %s\n", name.c_str(), reason.c_str());
+}
+
+}  // namespace tavimor
