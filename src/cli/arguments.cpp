@@ -107,7 +107,6 @@ ParsedArguments parseArguments(std::vector<std::string> words) {
   try {
     app.parse(words);
     parsed.arguments.command = app.get_subcommands().front()->get_name();
-    parsed.arguments.help = helpOf(app);
   } catch (const CLI::CallForVersion& version) {
     parsed.exitCode = ExitCode::Success;
     parsed.message = version.what() + std::string("\n");
@@ -120,5 +119,7 @@ ParsedArguments parseArguments(std::vector<std::string> words) {
   }
   return parsed;
 }
+
+std::string helpOfCommand(const std::string& command) { return parseArguments({command, "--help"}).message; }
 
 }  // namespace tavimor

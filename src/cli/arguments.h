@@ -14,7 +14,6 @@ struct Arguments {
   std::string problem;
   std::string output;               // empty: none
   std::vector<std::string> values;  // of the point to evaluate
-  std::string help;                 // of the command
 };
 
 /// Either arguments to run with or, where there is an exit code, the text to leave the user with: help or version for
@@ -26,5 +25,7 @@ struct ParsedArguments {
 };
 
 ParsedArguments parseArguments(std::vector<std::string> words);
+
+std::string helpOfCommand(const std::string& command);
 
 }  // namespace tavimor

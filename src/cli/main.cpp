@@ -29,7 +29,7 @@ ExitCode runReporting(const Arguments& arguments) {
     return run(arguments);
   } catch (const UsageError& error) {
     complain(arguments.problem, error.what());
-    std::fputs(arguments.help.c_str(), stderr);
+    std::fputs(helpOfCommand(arguments.command).c_str(), stderr);
     return ExitCode::Usage;
   } catch (const BadFile& error) {
     return fail(error.path, error.what());
