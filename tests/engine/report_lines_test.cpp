@@ -1,6 +1,6 @@
 #include "engine/report_lines.h"
 
-#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
 #include "runtime/run_time_error.h"
 #include "support/problem.h"
@@ -11,8 +11,7 @@ namespace {
 using test::linesOf;
 using test::problem;
 using test::tabulate;
-using testing::ElementsAre;
-using testing::ElementsAreArray;
+using Lines = std::vector<std::string>;
 
 std::vector<std::string> dataOf(Dimension& model) {
   return linesOf([&](const LineSink& print) { dataLines(model, print); });
@@ -26,34 +25,34 @@ std::string dataLine(const std::string& text, const std::string& function) {
 
 TEST(ReportLines, TheSpecificationBlockHasItsNumbersAsPrinted) {
   const Dimension model = problem({{"x", test::spaced(0, 1, 11), 3, 0.5}});
-  EXPECT_THAT(linesOf([&](const LineSink& print) { variableLines(model, 0, print); }),
-              ElementsAre("",                                //
-                          "           VARIABLE: x",          //
-                          "             DEGREE: 3 ",         //
-                          "        # OF POINTS: 11 ",        //
-                          "           INTERVAL: [ 0 , 1 ]",  //
-                          "CENTER OF EXPANSION: .5 "));
+  EXPECT_EQ(linesOf([&](const LineSink& print) { variableLines(model, 0, print); }),
+            (Lines{"",                                //
+                   "           VARIABLE: x",          //
+                   "             DEGREE: 3 ",         //
+                   "        # OF POINTS: 11 ",        //
+                   "           INTERVAL: [ 0 , 1 ]",  //
+                   "CENTER OF EXPANSION: .5 "}));
 }
 
 TEST(ReportLines, NegativeNumbersTakeTheSignsPlace) {
   const Dimension model = problem({{"speed (m/s)", {-2.5, -1e-7}, 0, -20}});
-  EXPECT_THAT(linesOf([&](const LineSink& print) { variableLines(model, 0, print); }),
-              ElementsAre("",                                      //
-                          "           VARIABLE: speed (m/s)",      //
-                          "             DEGREE: 0 ",               //
-                          "        # OF POINTS: 2 ",               //
-                          "           INTERVAL: [-2.5 ,-1E-07 ]",  //
-                          "CENTER OF EXPANSION:-20 "));
+  EXPECT_EQ(linesOf([&](const LineSink& print) { variableLines(model, 0, print); }),
+            (Lines{"",                                      //
+                   "           VARIABLE: speed (m/s)",      //
+                   "             DEGREE: 0 ",               //
+                   "        # OF POINTS: 2 ",               //
+                   "           INTERVAL: [-2.5 ,-1E-07 ]",  //
+                   "CENTER OF EXPANSION:-20 "}));
 }
 
 TEST(ReportLines, OfOneVariableListTheValuesWithoutAHeader) {
   Dimension model = problem({{"x", {0, 0.5, -1}, 0, 0}});
   tabulate(model, [](double x, double, double, double) { return 3 * x; });
-  EXPECT_THAT(dataOf(model), ElementsAre("", "DATA:", "",              //
-                                         dataLine("   x=0", "0"),      //
-                                         dataLine("   x=0.5", "1.5"),  //
-                                         dataLine("   x=-1", "-3"),    //
-                                         "", "", ""));
+  EXPECT_EQ(dataOf(model), (Lines{"", "DATA:", "",              //
+                                  dataLine("   x=0", "0"),      //
+                                  dataLine("   x=0.5", "1.5"),  //
+                                  dataLine("   x=-1", "-3"),    //
+                                  "", "", ""}));
 }
 
 TEST(ReportLines, ADataLineIsAsLongAsItsTextAndSeventyBlanks) {
@@ -65,52 +64,58 @@ TEST(ReportLines, ADataLineIsAsLongAsItsTextAndSeventyBlanks) {
 TEST(ReportLines, OfTwoVariablesHaveAHeaderPerValueOfTheSecond) {
   Dimension model = problem({{"x", {1, 2}, 0, 0}, {"y", {5, 6.25}, 0, 0}});
   tabulate(model, [](double x, double y, double, double) { return x * y; });
-  EXPECT_THAT(dataOf(model), ElementsAre("", "DATA:", "",             //
-                                         "  y=5",                     //
-                                         dataLine("   x=1", "5"),     //
-                                         dataLine("   x=2", "10"),    //
-                                         "",                          //
-                                         "  y=6.25",                  //
-                                         dataLine("   x=1", "6.25"),  //
-                                         dataLine("   x=2", "12.5"),  //
-                                         "", "", ""));
+  EXPECT_EQ(dataOf(model), (Lines{"", "DATA:", "",             //
+                                  "  y=5",                     //
+                                  dataLine("   x=1", "5"),     //
+                                  dataLine("   x=2", "10"),    //
+                                  "",                          //
+                                  "  y=6.25",                  //
+                                  dataLine("   x=1", "6.25"),  //
+                                  dataLine("   x=2", "12.5"),  //
+                                  "", "", ""}));
 }
 
 TEST(ReportLines, ASecondVariableWithASingleValueHasNoHeader) {
   Dimension model = problem({{"x", {1, 2}, 0, 0}, {"y", {5}, 0, 0}});
-  EXPECT_THAT(dataOf(model),
-              ElementsAre("", "DATA:", "", dataLine("   x=1", "0"), dataLine("   x=2", "0"), "", "", ""));
+  EXPECT_EQ(dataOf(model), (Lines{"", "DATA:", "", dataLine("   x=1", "0"), dataLine("   x=2", "0"), "", "", ""}));
 }
 
 TEST(ReportLines, ThreeVariablesPrintOnlyTheFirstValueOfTheThird) {
   Dimension model = problem({{"x", {1, 2}, 0, 0}, {"y", {3, 4}, 0, 0}, {"z", {5, 6, 7}, 0, 0}});
   tabulate(model, [](double x, double y, double z, double) { return 100 * z + 10 * y + x; });
-  EXPECT_THAT(dataOf(model), ElementsAre("", "DATA:", "",            //
-                                         "  y=3",                    //
-                                         dataLine("   x=1", "531"),  //
-                                         dataLine("   x=2", "532"),  //
-                                         "",                         //
-                                         "  y=4",                    //
-                                         dataLine("   x=1", "541"),  //
-                                         dataLine("   x=2", "542"),  //
-                                         "", "", ""));
+  EXPECT_EQ(dataOf(model), (Lines{"", "DATA:", "",            //
+                                  "  y=3",                    //
+                                  dataLine("   x=1", "531"),  //
+                                  dataLine("   x=2", "532"),  //
+                                  "",                         //
+                                  "  y=4",                    //
+                                  dataLine("   x=1", "541"),  //
+                                  dataLine("   x=2", "542"),  //
+                                  "", "", ""}));
 }
 
 TEST(ReportLines, OfFourVariablesTheThirdRunsToTheLastIndexOfTheFourth) {
   Dimension model = problem({{"x", {1}, 0, 0}, {"y", {2}, 0, 0}, {"z", {3, 4, 9}, 0, 0}, {"w", {5, 6}, 0, 0}});
   tabulate(model, [](double x, double y, double z, double w) { return 1000 * w + 100 * z + 10 * y + x; });
-  EXPECT_THAT(dataOf(model), ElementsAre("", "DATA:", "",                                 //
-                                         "w=5",                                           //
-                                         " z=3", dataLine("   x=1", "5321"), "", "",      //
-                                         " z=4", dataLine("   x=1", "5421"), "", "", "",  //
-                                         "w=6",                                           //
-                                         " z=3", dataLine("   x=1", "6321"), "", "",      //
-                                         " z=4", dataLine("   x=1", "6421"), "", "", ""));
+  EXPECT_EQ(dataOf(model), (Lines{"",     "DATA:",
+                                  "",     //
+                                  "w=5",  //
+                                  " z=3", dataLine("   x=1", "5321"),
+                                  "",     "",  //
+                                  " z=4", dataLine("   x=1", "5421"),
+                                  "",     "",
+                                  "",     //
+                                  "w=6",  //
+                                  " z=3", dataLine("   x=1", "6321"),
+                                  "",     "",  //
+                                  " z=4", dataLine("   x=1", "6421"),
+                                  "",     "",
+                                  ""}));
 }
 
 TEST(ReportLines, AFourthVariableWithASingleValueShowsNoHeaderOfTheThird) {
   Dimension model = problem({{"x", {1}, 0, 0}, {"y", {2}, 0, 0}, {"z", {3, 4}, 0, 0}, {"w", {5}, 0, 0}});
-  EXPECT_THAT(dataOf(model), ElementsAre("", "DATA:", "", dataLine("   x=1", "0"), "", "", ""));
+  EXPECT_EQ(dataOf(model), (Lines{"", "DATA:", "", dataLine("   x=1", "0"), "", "", ""}));
 }
 
 TEST(ReportLines, MoreValuesOfTheFourthThanOfTheThirdLeaveTheList) {
@@ -122,10 +127,10 @@ TEST(ReportLines, MoreValuesOfTheFourthThanOfTheThirdLeaveTheList) {
   } catch (const RunTimeError& error) {
     EXPECT_EQ(error.number(), ErrorNumber::SubscriptOutOfRange);
   }
-  EXPECT_THAT(lines, ElementsAre("", "DATA:", "",                          //
-                                 "w=5",                                    //
-                                 " z=3", dataLine("   x=1", "0"), "", "",  //
-                                 " z=4", dataLine("   x=1", "0"), "", ""));
+  EXPECT_EQ(lines, (Lines{"", "DATA:", "",                          //
+                          "w=5",                                    //
+                          " z=3", dataLine("   x=1", "0"), "", "",  //
+                          " z=4", dataLine("   x=1", "0"), "", ""}));
 }
 
 TEST(ReportLines, TheFunctionOverlaysALongNameFromColumn40) {
@@ -145,7 +150,7 @@ TEST(ReportLines, WithoutAFitHaveNoResults) {
   std::vector<std::string> expected;
   for (const Long k : {0, 1}) variableLines(model, k, [&](const std::string& line) { expected.push_back(line); });
   dataLines(model, [&](const std::string& line) { expected.push_back(line); });
-  EXPECT_THAT(linesOf([&](const LineSink& print) { reportLines(model, print); }), ElementsAreArray(expected));
+  EXPECT_EQ(linesOf([&](const LineSink& print) { reportLines(model, print); }), expected);
 }
 
 TEST(ReportLines, WithAFitHaveTheResultsBetweenSpecificationsAndData) {
@@ -153,26 +158,34 @@ TEST(ReportLines, WithAFitHaveTheResultsBetweenSpecificationsAndData) {
   tabulate(model, [](double x, double, double, double) { return 3 + 2 * x; });
   test::compute(model);
   const auto lines = linesOf([&](const LineSink& print) { reportLines(model, print); });
-  EXPECT_THAT(lines, ElementsAre("",                                                              //
-                                 "           VARIABLE: x",                                        //
-                                 "             DEGREE: 1 ",                                       //
-                                 "        # OF POINTS: 3 ",                                       //
-                                 "           INTERVAL: [-1 , 1 ]",                                //
-                                 "CENTER OF EXPANSION: 0 ",                                       //
-                                 "              CORRELATION COEFFICIENT=1",                       //
-                                 "STANDARD ERROR OF ESTIMATE (UNBIASED)=0",                       //
-                                 "                    SUM (RESIDUALS)^2=0",                       //
-                                 "           AVERAGE OF FUNCTION(GIVEN)=3",                       //
-                                 "       AVERAGE OF FUNCTION(ESTIMATED)=3",                       //
-                                 "", "COEFFICIENTS:", "",                                         //
-                                 "3" + std::string(255, ' '),                                     //
-                                 "2" + std::string(23, ' ') + "*x" + std::string(256 - 26, ' '),  //
-                                 "", "", "",                                                      //
-                                 "", "DATA:", "",                                                 //
-                                 dataLine("   x=-1", "1"),                                        //
-                                 dataLine("   x=0", "3"),                                         //
-                                 dataLine("   x=1", "5"),                                         //
-                                 "", "", ""));
+  EXPECT_EQ(lines, (Lines{"",                                         //
+                          "           VARIABLE: x",                   //
+                          "             DEGREE: 1 ",                  //
+                          "        # OF POINTS: 3 ",                  //
+                          "           INTERVAL: [-1 , 1 ]",           //
+                          "CENTER OF EXPANSION: 0 ",                  //
+                          "              CORRELATION COEFFICIENT=1",  //
+                          "STANDARD ERROR OF ESTIMATE (UNBIASED)=0",  //
+                          "                    SUM (RESIDUALS)^2=0",  //
+                          "           AVERAGE OF FUNCTION(GIVEN)=3",  //
+                          "       AVERAGE OF FUNCTION(ESTIMATED)=3",  //
+                          "",
+                          "COEFFICIENTS:",
+                          "",                                                              //
+                          "3" + std::string(255, ' '),                                     //
+                          "2" + std::string(23, ' ') + "*x" + std::string(256 - 26, ' '),  //
+                          "",
+                          "",
+                          "",  //
+                          "",
+                          "DATA:",
+                          "",                        //
+                          dataLine("   x=-1", "1"),  //
+                          dataLine("   x=0", "3"),   //
+                          dataLine("   x=1", "5"),   //
+                          "",
+                          "",
+                          ""}));
 }
 
 }  // namespace
