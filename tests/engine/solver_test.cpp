@@ -101,6 +101,16 @@ TEST(Solver, AZeroColumnIsSkippedAndLeavesTheSystemSingular) {
   EXPECT_EQ(y(0, 0, 0, 0), 2.0);  // the row above it not
 }
 
+TEST(Solver, TheColumnsBehindAZeroColumnAreEliminatedAllTheSame) {
+  Gram gram = matrix({{0, 0, 0}, {0, 1, 3}, {0, 2, 4}});
+  Table4 y = rightHandSide({0, 4, 6});
+  EXPECT_EQ(solveAlong(0, gram, y), Solution::Singular);
+  EXPECT_EQ(gram(1, 1), 2.0);
+  EXPECT_EQ(gram(2, 2), 1.0);
+  EXPECT_EQ(y(1, 0, 0, 0), 1.0);
+  EXPECT_EQ(y(2, 0, 0, 0), 1.0);
+}
+
 TEST(Solver, OnlyAnExactZeroIsSingular) {
   Gram gram = matrix({{1, 1}, {1, 1 + 1e-15}});
   Table4 y = rightHandSide({2, 2 + 1e-15});
