@@ -21,7 +21,7 @@ constexpr std::array<double, 23> kExactPowersOfTen = {1e0,  1e1,  1e2,  1e3,  1e
                                                       1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
 constexpr int kLargestExactPower = static_cast<int>(kExactPowersOfTen.size()) - 1;
 constexpr int kDigitsInWord = std::numeric_limits<std::uint64_t>::digits10;  // 19: no overflow up to here
-constexpr int kExponentLimit = 100000;  // beyond any double, far from overflowing an int
+constexpr int kExponentLimit = 100000000;  // more than a text's digits can make up for; ten times it is an int still
 
 constexpr std::array<std::uint64_t, 9> kPowersOfTen = {1, 10, 100, 1000, 10000, 100000, 1000000, 10000000, 100000000};
 
