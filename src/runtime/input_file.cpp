@@ -20,15 +20,17 @@ namespace {
 constexpr std::size_t kWindowBytes = 256 * 1024;
 constexpr std::size_t kNumbersAtATime = 4096;
 constexpr std::ptrdiff_t kUsualFieldBytes = 64;  // a window with less left is filled before a number is read
-constexpr std::size_t kExcerptBytes = 40;
+constexpr std::size_t kExcerptCharacters = 40;
+constexpr const char* kTooLong = "a field that is too long";
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
 std::uint64_t regularFileSize(const std::string& path) {
   std::error_code error;
   const std::uint64_t size = std::filesystem::file_size(path, error);
-  if (error && error.value() != ENOENT && error.value() != EACCES) throw fileError(EISDIR, path);
-  if (error) throw fileError(error.value(), path);
-  return size;
+  if (!error) return size;
+  std::error_code ignored;
+  const bool isSomethingElse = std::filesystem::exists(path, ignored);
+  throw fileError(isSomethingElse ? EISDIR : error.default_error_condition().value(), path);
 }
 
 bool isBlank(char c) { return c == ' ' || c == '\t'; }
@@ -77,30 +79,37 @@ const char* InputFile::afterBlanks(const char* at) const {
 // Whether the window ends too early to tell what stands at this place.
 bool InputFile::needsMore(const char* at) const { return !ended_ && (at == last_ || (*at == '\r' && at + 1 == last_)); }
 
+// A CR that nothing follows is half of the last line's end.
 bool InputFile::isFieldEnd(const char* at) const {
   if (at == last_ || *at == ',' || *at == '\n') return true;
-  return *at == '\r' && at + 1 != last_ && at[1] == '\n';
+  return *at == '\r' && (at + 1 == last_ || at[1] == '\n');
+}
+
+void InputFile::skipBlanks() {
+  if (last_ - at_ < kUsualFieldBytes) fill();
+  at_ = afterBlanks(at_);
+  while (at_ == last_ && fill()) at_ = afterBlanks(at_);
 }
 
 InputFile::NumberField InputFile::peekNumber(const char* item) {
-  if (last_ - at_ < kUsualFieldBytes) fill();
+  skipBlanks();
   while (true) {
-    const char* first = afterBlanks(at_);
-    const Numeral numeral = scanNumeral(first, last_);
+    const Numeral numeral = scanNumeral(at_, last_);
     const char* end = afterBlanks(numeral.end);
-    if (needsMore(end) && fill()) continue;
-    if (numeral.end == first || !isFieldEnd(end)) refuse(std::string(item) + " (a number)", excerpt());
-    return {numeral.value, end};
+    if (numeral.end != at_ && isFieldEnd(end) && !needsMore(end)) return {numeral.value, end};
+    if (fill()) continue;  // the window may have cut the numeral, even between "1E" and "5"
+    refuse(std::string(item) + " (a number)", needsMore(end) ? kTooLong : excerpt());
   }
 }
 
 std::string_view InputFile::peekPlainField(const char* item) {
+  skipBlanks();
   const char* end = at_;
   while (true) {
     while (end != last_ && !isFieldEnd(end) && !needsMore(end)) ++end;
     if (!needsMore(end)) break;
     const std::ptrdiff_t length = end - at_;
-    if (!fill()) refuse(item, "a field that is too long");
+    if (!fill()) refuse(item, kTooLong);
     end = at_ + length;
   }
   if (at_ == last_) refuse(item, excerpt());
@@ -131,15 +140,14 @@ const char* InputFile::findClosingQuote(const char* item) {
 
 void InputFile::consume(const char* end) {
   at_ = end;
+  if (at_ != last_ && *at_ == '\r') ++at_;
   if (at_ == last_) return;
-  if (*at_ == '\r') ++at_;
   if (*at_ == '\n') ++line_;
   ++at_;
 }
 
 std::string InputFile::readText(const char* item) {
-  if (last_ - at_ < kUsualFieldBytes) fill();
-  at_ = afterBlanks(at_);
+  skipBlanks();
   if (at_ != last_ && *at_ == '"') {
     const char* quote = findClosingQuote(item);
     std::string text = utf8FromBytes({at_ + 1, static_cast<std::size_t>(quote - at_ - 1)});
@@ -193,7 +201,7 @@ void InputFile::readDoubles(const char* item, std::size_t count, const TakeNumbe
 
 void InputFile::expectEnd() {
   while (true) {
-    at_ = afterBlanks(at_);
+    skipBlanks();
     if (needsMore(at_) && fill()) continue;
     if (at_ == last_) return;
     if (*at_ == ',' || !isFieldEnd(at_)) refuse("the end of the file", excerpt());
@@ -209,15 +217,14 @@ void InputFile::refuse(const std::string& expected, const std::string& found) co
 
 // What stands at this place, fit for one line of a message.
 std::string InputFile::excerpt() const {
-  const char* first = afterBlanks(at_);
-  if (first == last_) return "the end of the file";
-  const char* end = first;
-  while (end != last_ && *end != '\n' && (*end != ',' || *first == '"') &&
-         end - first < static_cast<std::ptrdiff_t>(kExcerptBytes))
-    ++end;
-  const std::string_view field = trimmed({first, static_cast<std::size_t>(end - first)});
-  std::string text = utf8FromBytes(field.ends_with('\r') ? field.substr(0, field.size() - 1) : field);
-  if (text.empty()) return "nothing";
+  if (at_ == last_) return "the end of the file";
+  const char* end = at_;
+  while (end != last_ && *end != '\n' && (*end != ',' || *at_ == '"')) ++end;
+  std::string_view field(at_, static_cast<std::size_t>(end - at_));
+  if (field.ends_with('\r')) field.remove_suffix(1);
+  const std::string whole = utf8FromBytes(trimmed(field));
+  if (whole.empty()) return "nothing";
+  std::string text(firstCharacters(whole, kExcerptCharacters));
   for (char& c : text)
     if (static_cast<unsigned char>(c) < ' ' || c == '\x7F') c = '?';
   return '"' + text + '"';

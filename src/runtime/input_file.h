@@ -59,6 +59,7 @@ class InputFile {
   const char* afterBlanks(const char* at) const;
   bool needsMore(const char* at) const;
   bool isFieldEnd(const char* at) const;
+  void skipBlanks();
   NumberField peekNumber(const char* item);
   std::string_view peekPlainField(const char* item);
   const char* findClosingQuote(const char* item);

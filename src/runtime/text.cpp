@@ -74,12 +74,16 @@ std::size_t characterCount(std::string_view text) {
   return text.size() - static_cast<std::size_t>(std::count_if(text.begin(), text.end(), isContinuation));
 }
 
+std::string_view firstCharacters(std::string_view text, std::size_t count) {
+  return text.substr(0, byteOfCharacter(text, count));
+}
+
 std::string overlaid(std::string_view line, std::size_t column, std::string_view insert) {
   const std::size_t length = characterCount(line);
   const std::size_t before = std::min(column - 1, length);
   const std::size_t fitting = std::min(characterCount(insert), length - before);
-  std::string result(line.substr(0, byteOfCharacter(line, before)));
-  result.append(insert.substr(0, byteOfCharacter(insert, fitting)));
+  std::string result(firstCharacters(line, before));
+  result.append(firstCharacters(insert, fitting));
   result.append(line.substr(byteOfCharacter(line, before + fitting)));
   return result;
 }

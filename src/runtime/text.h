@@ -14,6 +14,9 @@ std::string utf8FromBytes(std::string_view bytes);
 /// The number of characters.
 std::size_t characterCount(std::string_view text);
 
+/// The first `count` characters, or all of them where there are fewer.
+std::string_view firstCharacters(std::string_view text, std::size_t count);
+
 /// Writes `insert` over `line` from column `column` (the first one is 1) on, without changing the number of
 /// characters: what would stand beyond the end is dropped.
 std::string overlaid(std::string_view line, std::size_t column, std::string_view insert);

@@ -47,6 +47,12 @@ TEST(Text, ACharacterIsAColumn) {
   EXPECT_EQ(characterCount("ü€\U0001F600"), 3u);
 }
 
+TEST(Text, TheFirstCharactersAreCutBetweenCharacters) {
+  EXPECT_EQ(firstCharacters("ü€x", 0), "");
+  EXPECT_EQ(firstCharacters("ü€x", 2), "ü€");
+  EXPECT_EQ(firstCharacters("ü€x", 9), "ü€x");
+}
+
 TEST(Text, AnOverlaidTextReplacesColumns) {
   EXPECT_EQ(overlaid("..........", 1, "abc"), "abc.......");
   EXPECT_EQ(overlaid("..........", 4, "abc"), "...abc....");
