@@ -181,8 +181,9 @@ void keepRunState(Dimension& opened, const Dimension& model) {
 
 CentreTexts readProblem(const std::string& path, Dimension& model) {
   Dimension opened;
-  CentreTexts centres = readSpecification(specificationPath(path), opened);
-  readValues(valuesPath(path), opened);
+  const PairPaths pair = readablePair(path);
+  CentreTexts centres = readSpecification(pair.specification, opened);
+  readValues(pair.values, opened);
   keepRunState(opened, model);
   model = std::move(opened);
   return centres;

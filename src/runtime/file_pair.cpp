@@ -13,30 +13,45 @@ namespace {
 
 std::string newName(const std::string& target) { return target + ".tavimor-new"; }
 std::string oldName(const std::string& target) { return target + ".tavimor-old"; }
+std::string backName(const std::string& target) { return target + ".tavimor-back"; }
 
-bool exists(const std::string& path) {
+bool isFile(const std::string& path) {
   std::error_code ignored;
-  return fs::exists(path, ignored);
+  return fs::is_regular_file(path, ignored);
 }
 
-bool hasInterruptedSave(const std::string& specification, const std::string& values) {
-  return exists(newName(specification)) && !exists(newName(values));
+bool valuesAreOnTheirWayBack(const PairPaths& pair) { return isFile(backName(pair.values)); }
+
+bool newValuesAreInPlace(const PairPaths& pair) {
+  return isFile(newName(pair.specification)) && !isFile(newName(pair.values));
 }
 
-// A link is followed, so that the file it leads to is replaced and not the link.
+// The file that a link leads to, which need not exist.
 std::string resolved(const std::string& path) {
-  std::error_code error;
-  if (!fs::is_symlink(path, error)) return path;
-  const fs::path target = fs::weakly_canonical(path, error);
-  return error ? path : target.string();
+  constexpr int mostLinks = 40;  // as many as Linux follows
+  fs::path target = path;
+  std::error_code ignored;
+  for (int links = 0; fs::is_symlink(target, ignored); ++links) {
+    if (links == mostLinks) throw RunTimeError(ErrorNumber::PathFileAccess, path);
+    target = target.parent_path() / fs::read_symlink(target, ignored);
+  }
+  return target.string();
 }
+
+PairPaths resolved(const PairPaths& pair) { return {resolved(pair.specification), resolved(pair.values)}; }
 
 // Replacing a file asks only for permission on its folder: a file that may not be written is refused here.
-void requireReplaceable(const std::string& target) {
-  if (!exists(target)) return;
+void requireReplaceable(const std::string& path) {
   std::error_code ignored;
-  if (!fs::is_regular_file(target, ignored)) throw RunTimeError(ErrorNumber::PathFileAccess, target);
-  if (!openFile(target, "r+b")) throw fileError(errno, target);
+  if (!fs::exists(path, ignored)) return;
+  if (!isFile(path)) throw RunTimeError(ErrorNumber::PathFileAccess, path);
+  if (!openFile(path, "r+b")) throw fileError(errno, path);
+}
+
+void requireTwoFiles(const PairPaths& pair) {
+  std::error_code ignored;
+  if (pair.specification == pair.values || fs::equivalent(pair.specification, pair.values, ignored))
+    throw RunTimeError(ErrorNumber::FileAlreadyOpen, pair.values);
 }
 
 void copyPermissions(const std::string& from, const std::string& to) {
@@ -45,80 +60,126 @@ void copyPermissions(const std::string& from, const std::string& to) {
   if (fs::exists(status)) fs::permissions(to, status.permissions(), ignored);
 }
 
-}  // namespace
-
-std::string valuesPath(const std::string& path) { return path + ".dat"; }
-
-std::string specificationPath(const std::string& path) {
-  const std::string specification = resolved(path);
-  return hasInterruptedSave(specification, resolved(valuesPath(path))) ? newName(specification) : path;
+std::string folderOf(const std::string& path) {
+  const std::string parent = fs::path(path).parent_path().string();
+  return parent.empty() ? "." : parent;
 }
 
-FilePair::FilePair(const std::string& path, FileSteps& steps)
-    : steps_(steps), specificationTarget_(resolved(path)), valuesTarget_(resolved(valuesPath(path))) {
-  requireReplaceable(specificationTarget_);
-  requireReplaceable(valuesTarget_);
+}  // namespace
+
+PairPaths pairPaths(const std::string& path) { return {path, path + ".dat"}; }
+
+PairPaths readablePair(const std::string& path) {
+  PairPaths pair = pairPaths(path);
+  const PairPaths target = resolved(pair);
+  if (valuesAreOnTheirWayBack(target))
+    pair.values = backName(target.values);
+  else if (newValuesAreInPlace(target))
+    pair.specification = newName(target.specification);
+  return pair;
+}
+
+FilePair::FilePair(const std::string& path, FileSteps& steps) : steps_(steps) {
+  const PairPaths pair = pairPaths(path);
+  requireReplaceable(pair.specification);
+  requireReplaceable(pair.values);
+  target_ = resolved(pair);
+  requireTwoFiles(target_);
   finishInterruptedSave();
-  values_.emplace(newName(valuesTarget_), steps_, valuesTarget_);
   try {
-    specification_.emplace(newName(specificationTarget_), steps_, specificationTarget_);
+    create(values_, target_.values);
+    flushFolders();  // a new specification must never be on the disk alone while it is written
+    create(specification_, target_.specification);
   } catch (...) {
-    steps_.remove(newName(valuesTarget_));
+    discard();
     throw;
   }
 }
 
 FilePair::~FilePair() {
-  if (committed_) return;
-  // In this order: a new specification may stand alone only when its values are in place.
-  steps_.remove(newName(specificationTarget_));
-  steps_.remove(newName(valuesTarget_));
+  if (!settled_) discard();
 }
 
 void FilePair::commit() {
   values_->finish();
   specification_->finish();
-  copyPermissions(valuesTarget_, values_->path());
-  copyPermissions(specificationTarget_, specification_->path());
-  flushFolder();
-
-  const bool hadOldValues = exists(valuesTarget_);
-  const std::string oldValues = oldName(valuesTarget_);
-  if (hadOldValues && !steps_.keepAs(valuesTarget_, oldValues)) throw fileError(errno, valuesTarget_);
+  flushFolders();
+  const std::string oldValues = oldName(target_.values);
+  hadOldValues_ = isFile(target_.values);
+  if (hadOldValues_ && !steps_.keepAs(target_.values, oldValues)) throw fileError(errno, target_.values);
   try {
-    if (!steps_.replace(values_->path(), valuesTarget_)) throw fileError(errno, valuesTarget_);
-    flushFolder();
-    if (!steps_.replace(specification_->path(), specificationTarget_)) throw fileError(errno, specificationTarget_);
-  } catch (const RunTimeError&) {
-    putBackOldValues(hadOldValues);
+    move(newName(target_.values), target_.values);
+    flushFolders();
+    move(newName(target_.specification), target_.specification);
+  } catch (...) {
+    putBackOldValues();
     throw;
   }
-  committed_ = true;
-  if (hadOldValues) steps_.remove(oldValues);
-  steps_.flushFolder(folder());  // both files are in place: a refusal here undoes nothing
+  settled_ = true;
+  // The new pair is in place: nothing that is refused from here on undoes it.
+  removed(oldValues);
+  steps_.flushFolder(folderOf(target_.specification));
 }
 
+// Leaves none of the files that a killed save had beside the targets.
 void FilePair::finishInterruptedSave() {
-  if (!hasInterruptedSave(specificationTarget_, valuesTarget_)) return;
-  if (!steps_.replace(newName(specificationTarget_), specificationTarget_))
-    throw fileError(errno, specificationTarget_);
+  if (valuesAreOnTheirWayBack(target_)) {
+    remove(newName(target_.specification));
+    move(backName(target_.values), target_.values);
+  } else if (newValuesAreInPlace(target_)) {
+    move(newName(target_.specification), target_.specification);
+  }
+  remove(newName(target_.specification));
+  remove(newName(target_.values));
+  remove(oldName(target_.values));
 }
 
-void FilePair::putBackOldValues(bool hadOldValues) {
-  steps_.remove(newName(specificationTarget_));
-  const bool replaced = !exists(newName(valuesTarget_));
-  if (replaced && !hadOldValues) steps_.remove(valuesTarget_);
-  if (replaced && hadOldValues && !steps_.replace(oldName(valuesTarget_), valuesTarget_)) return;
-  steps_.remove(oldName(valuesTarget_));
+void FilePair::create(std::optional<OutputFile>& file, const std::string& target) {
+  file.emplace(newName(target), steps_, target);
+  copyPermissions(target, file->path());
 }
 
-std::string FilePair::folder() const {
-  const fs::path parent = fs::path(specificationTarget_).parent_path();
-  return parent.empty() ? "." : parent.string();
+// Each step leaves one whole pair to read, so that the first refusal among them can end it.
+void FilePair::putBackOldValues() {
+  if (isFile(newName(target_.values))) return;  // the new values have not moved: there is only something to discard
+  settled_ = true;
+  if (!hadOldValues_) {
+    if (removed(target_.values)) removed(newName(target_.specification));
+    return;
+  }
+  if (!steps_.replace(oldName(target_.values), backName(target_.values))) return;
+  if (!removed(newName(target_.specification))) return;
+  steps_.replace(backName(target_.values), target_.values);
 }
 
-void FilePair::flushFolder() {
-  if (!steps_.flushFolder(folder())) throw fileError(errno, specificationTarget_);
+// In this order: a new specification that stands alone is the one to read.
+void FilePair::discard() {
+  values_.reset();
+  specification_.reset();
+  if (!removed(newName(target_.specification))) return;
+  steps_.flushFolder(folderOf(target_.specification));
+  removed(newName(target_.values));
+  removed(oldName(target_.values));
+}
+
+bool FilePair::removed(const std::string& path) {
+  std::error_code ignored;
+  return !fs::exists(fs::symlink_status(path, ignored)) || steps_.remove(path);
+}
+
+void FilePair::remove(const std::string& path) {
+  if (!removed(path)) throw fileError(errno, path);
+}
+
+void FilePair::move(const std::string& path, const std::string& target) {
+  if (!steps_.replace(path, target)) throw fileError(errno, target);
+}
+
+void FilePair::flushFolders() {
+  const std::string folder = folderOf(target_.values);
+  const std::string secondFolder = folderOf(target_.specification);
+  if (!steps_.flushFolder(folder)) throw fileError(errno, target_.values);
+  if (secondFolder != folder && !steps_.flushFolder(secondFolder)) throw fileError(errno, target_.specification);
 }
 
 }  // namespace tavimor

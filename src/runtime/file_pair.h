@@ -7,21 +7,44 @@
 
 namespace tavimor {
 
-/// The two files of a problem: `path` itself and `path` with ".dat" appended.
-std::string valuesPath(const std::string& path);
+/// The two files of a problem.
+struct PairPaths {
+  std::string specification;
+  std::string values;
+};
 
-/// The specification file to read. This is `path`, but where a save ended between its last two steps it is the
-/// finished file beside it, which belongs to the values that are in place already.
-std::string specificationPath(const std::string& path);
+/// `path` itself and `path` with ".dat" appended: where a problem is written.
+PairPaths pairPaths(const std::string& path);
+
+/// The files to read for the problem `path`. These are its own, but where a save was killed on its way they can be
+/// those beside them that belong together (see FilePair).
+/// Errors: PathFileAccess for links that lead in a circle.
+PairPaths readablePair(const std::string& path);
 
 /// Replaces both files of a problem together, or neither.
 ///
-/// Both are written in full under names of their own (".tavimor-new" appended), the values first. `commit` then puts
-/// the values in their place and last the specification. A reader takes a new specification that stands alone for
-/// the real one (see specificationPath), so that a save that is killed between the two steps has happened; killed at
-/// any other moment, it has not. A step that the system refuses leaves the earlier pair in place.
+/// Files beside the targets, each with an ending of its own:
+///   .tavimor-new   the new specification, the new values: written in full and put on the disk before anything moves
+///   .tavimor-old   a second name of the old values
+///   .tavimor-back  the old values on their way back, where a step was refused
 ///
-/// Errors: a RunTimeError with the path; PathFileAccess where a target is no regular file.
+/// | what stands there                           | the pair to read           |
+/// |---------------------------------------------|----------------------------|
+/// | old values on their way back                | specification, those       |
+/// | new specification without new values        | new specification, values  |
+/// | anything else                               | specification, values      |
+///
+/// `commit` moves the new values into place, and by this one step the new pair is the one to read; then the new
+/// specification. Where that is refused, the old values take the name of those on their way back, and by this one step
+/// the old pair is the one to read again. So at any moment, killed or not, a reader finds one whole pair; the next
+/// save tidies up. A refused step leaves the earlier pair in place and none of these files.
+///
+/// What remains possible: where the power fails and the disk had not yet taken a renaming that it confirmed. A copy of
+/// the two files alone, made between a kill and the next save, may hold a specification and values of two saves.
+///
+/// Links are followed: the files that they lead to are replaced.
+/// Errors: a RunTimeError with the path; PathFileAccess where a target is no regular file, FileAlreadyOpen where both
+/// targets are one file.
 class FilePair {
  public:
   explicit FilePair(const std::string& path, FileSteps& steps = systemFileSteps());
@@ -36,16 +59,20 @@ class FilePair {
 
  private:
   void finishInterruptedSave();
-  void putBackOldValues(bool hadOldValues);
-  std::string folder() const;
-  void flushFolder();
+  void create(std::optional<OutputFile>& file, const std::string& target);
+  void putBackOldValues();
+  void discard();
+  bool removed(const std::string& path);
+  void remove(const std::string& path);
+  void move(const std::string& path, const std::string& target);
+  void flushFolders();
 
   FileSteps& steps_;
-  std::string specificationTarget_;
-  std::string valuesTarget_;
+  PairPaths target_;
   std::optional<OutputFile> values_;
   std::optional<OutputFile> specification_;
-  bool committed_ = false;
+  bool hadOldValues_ = false;
+  bool settled_ = false;  // nothing is left to discard
 };
 
 }  // namespace tavimor

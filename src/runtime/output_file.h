@@ -35,6 +35,7 @@ class OutputFile {
 
  private:
   void appendItem(std::string_view text);
+  void appendItem(const char* text) { appendItem(std::string_view(text)); }  // a bool would be nearer to a pointer
   void appendItem(bool value);
   void appendItem(double value);
   void appendItem(Long value);

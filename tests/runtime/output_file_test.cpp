@@ -1,0 +1,88 @@
+#include "runtime/output_file.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+
+#include "support/expect_error.h"
+#include "support/files.h"
+#include "support/temporary_folder.h"
+
+namespace tavimor {
+namespace {
+
+using test::expectError;
+
+class OutputFileBytes : public test::FolderTest {
+ protected:
+  template <class Write>
+  std::string written(Write write) {
+    OutputFile file(folder / "file", systemFileSteps());
+    write(file);
+    file.finish();
+    return test::readBytes(folder / "file");
+  }
+};
+
+TEST_F(OutputFileBytes, APrintLineIsANumberWithSignAndBlank) {
+  EXPECT_EQ(written([](OutputFile& file) {
+              file.print(Long{3});
+              file.print(Long{-3});
+              file.print(0.5);
+              file.print(-2.25);
+              file.print(1e-5);
+              file.print(std::numeric_limits<double>::infinity());
+            }),
+            " 3 \r\n-3 \r\n .5 \r\n-2.25 \r\n 1E-05 \r\n INF \r\n");
+}
+
+TEST_F(OutputFileBytes, AWriteLineIsARecordWithoutBlanks) {
+  EXPECT_EQ(written([](OutputFile& file) {
+              file.write(std::string("x"), 0.0, 1.0, -0.5, false, 1e15, Long{2});
+              file.write(true);
+              file.write("a literal", std::string("5\" disk"), std::string());
+            }),
+            "\"x\",0,1,-.5,#FALSE#,1E+15,2\r\n#TRUE#\r\n\"a literal\",\"5\" disk\",\"\"\r\n");
+}
+
+TEST_F(OutputFileBytes, NothingWrittenIsAnEmptyFile) {
+  EXPECT_EQ(written([](OutputFile&) {}), "");
+}
+
+TEST_F(OutputFileBytes, ManyLinesComeWholeAndInOrder) {
+  std::string wanted;
+  const std::string got = written([&](OutputFile& file) {
+    for (Long n = 0; n < 50000; ++n) {
+      file.print(n);
+      wanted += " " + std::to_string(n) + " \r\n";
+    }
+  });
+  EXPECT_TRUE(got == wanted);
+}
+
+TEST_F(OutputFileBytes, AnEarlierFileIsReplaced) {
+  test::writeBytes(folder / "file", "something that is longer");
+  EXPECT_EQ(written([](OutputFile& file) { file.print(Long{1}); }), " 1 \r\n");
+}
+
+TEST_F(OutputFileBytes, WhatCannotBeCreatedNamesTheFileThatTheUserKnows) {
+  expectError(ErrorNumber::PathNotFound, [&] { OutputFile(folder / "none/file", systemFileSteps()); });
+  expectError(ErrorNumber::PathFileAccess, [&] { OutputFile(folder.path(), systemFileSteps()); });
+  try {
+    OutputFile file(folder / "none/file", systemFileSteps(), folder / "target");
+    ADD_FAILURE();
+  } catch (const RunTimeError& error) {
+    EXPECT_EQ(error.path(), folder / "target");
+  }
+}
+
+#ifdef __linux__
+TEST_F(OutputFileBytes, AFullDiskIsReported) {
+  OutputFile file("/dev/full", systemFileSteps());
+  file.print(Long{1});
+  expectError(ErrorNumber::DiskFull, [&] { file.finish(); });
+}
+#endif
+
+}  // namespace
+}  // namespace tavimor

@@ -1,0 +1,40 @@
+#pragma once
+
+#ifndef _WIN32
+
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <cstdlib>
+#include <exception>
+#include <functional>
+
+namespace tavimor::test {
+
+constexpr int kChildFailed = 99;  // the action ended in an exception
+
+/// Runs the action in a child process and returns the child's exit code: 0 unless the action calls _exit itself.
+inline int exitCodeOfChild(const std::function<void()>& action) {
+  const pid_t child = fork();
+  if (child == 0) {
+    try {
+      action();
+      _exit(0);
+    } catch (...) {
+      _exit(kChildFailed);
+    }
+  }
+  int status = 0;
+  if (child < 0 || waitpid(child, &status, 0) != child || !WIFEXITED(status)) std::abort();
+  return WEXITSTATUS(status);
+}
+
+/// In a child: gives up the rights of the superuser, who may write everywhere.
+inline void becomeOrdinaryUser() {
+  constexpr unsigned nobody = 65534;
+  if (geteuid() == 0 && setuid(nobody) != 0) std::abort();
+}
+
+}  // namespace tavimor::test
+
+#endif

@@ -1,0 +1,61 @@
+#pragma once
+
+#include <cerrno>
+#include <cstdlib>
+#include <map>
+#include <string>
+#include <string_view>
+#include <utility>
+
+#include "runtime/file_steps.h"
+
+namespace tavimor::test {
+
+constexpr int kKilled = 77;
+
+enum class Fault { None, Refused, Killed };
+
+/// The steps of writing files, counted from 1, with a fault at chosen ones: the step is refused and nothing is done,
+/// or the process ends there at once. A refused or killed writing leaves half of its bytes.
+class FaultySteps : public FileSteps {
+ public:
+  FaultySteps() = default;
+  explicit FaultySteps(std::map<int, Fault> faults) : faults_(std::move(faults)) {}
+
+  int count() const { return count_; }
+
+  FileHandle create(const std::string& path) override { return passes() ? FileSteps::create(path) : nullptr; }
+  bool write(std::FILE* file, std::string_view bytes) override {
+    if (comes() != Fault::None) FileSteps::write(file, bytes.substr(0, bytes.size() / 2));
+    return passes() && FileSteps::write(file, bytes);
+  }
+  bool flush(std::FILE* file) override { return passes() && FileSteps::flush(file); }
+  bool close(FileHandle file) override { return passes() && FileSteps::close(std::move(file)); }
+  bool flushFolder(const std::string& folder) override { return passes() && FileSteps::flushFolder(folder); }
+  bool keepAs(const std::string& path, const std::string& secondName) override {
+    return passes() && FileSteps::keepAs(path, secondName);
+  }
+  bool replace(const std::string& path, const std::string& target) override {
+    return passes() && FileSteps::replace(path, target);
+  }
+  bool remove(const std::string& path) override { return passes() && FileSteps::remove(path); }
+
+ private:
+  Fault comes() const {
+    const auto fault = faults_.find(count_ + 1);
+    return fault == faults_.end() ? Fault::None : fault->second;
+  }
+
+  bool passes() {
+    const Fault fault = comes();
+    ++count_;
+    if (fault == Fault::Killed) std::_Exit(kKilled);
+    if (fault == Fault::Refused) errno = ENOSPC;
+    return fault == Fault::None;
+  }
+
+  std::map<int, Fault> faults_;
+  int count_ = 0;
+};
+
+}  // namespace tavimor::test
