@@ -1,7 +1,8 @@
 #include "model/add_values.h"
 
-#include <algorithm>
+#include <cerrno>
 #include <filesystem>
+#include <optional>
 #include <utility>
 
 #include "model/var_values.h"
@@ -14,8 +15,7 @@ namespace tavimor {
 
 namespace {
 
-void writeTable(const Table4& table, const std::string& path, FileSteps& steps) {
-  OutputFile file(path, steps);
+void writeTable(const Table4& table, OutputFile& file) {
   const PerVariable<Long>& last = table.last();
   for (Long i0 = 0; i0 <= last[0]; ++i0)
     for (Long i1 = 0; i1 <= last[1]; ++i1)
@@ -26,25 +26,32 @@ void writeTable(const Table4& table, const std::string& path, FileSteps& steps) 
 
 void readTable(Table4& table, const PerVariable<Long>& lastRead, const std::string& path) {
   InputFile file(path);
-  for (Long i0 = 0; i0 <= lastRead[0]; ++i0)
-    for (Long i1 = 0; i1 <= lastRead[1]; ++i1)
-      for (Long i2 = 0; i2 <= lastRead[2]; ++i2)
-        for (Long i3 = 0; i3 <= lastRead[3]; ++i3) table(i0, i1, i2, i3) = file.readDouble("a value of the function");
+  try {
+    for (Long i0 = 0; i0 <= lastRead[0]; ++i0)
+      for (Long i1 = 0; i1 <= lastRead[1]; ++i1)
+        for (Long i2 = 0; i2 <= lastRead[2]; ++i2)
+          for (Long i3 = 0; i3 <= lastRead[3]; ++i3) table(i0, i1, i2, i3) = file.readDouble("a value of the function");
+  } catch (const BadFile&) {
+    throw RunTimeError(ErrorNumber::InputPastEnd, path);
+  }
 }
 
 Table4 relaidTable(const Dimension& model, const PerVariable<Long>& newLast, FileSteps& steps) {
-  const std::string path = workFilePath(model);
   Table4 table;
   table.redim(newLast);
   PerVariable<Long> lastRead{};
   for (Long d = 0; d < kMaxVariables; ++d) lastRead[d] = addLongs(newLast[d], -model.AddCount[d]);
-  writeTable(model.F, path, steps);
+  const std::string path = workFilePath(model);
+  std::optional<OutputFile> file(std::in_place, path, steps);
   try {
+    writeTable(model.F, *file);
     readTable(table, lastRead, path);
-  } catch (const BadFile&) {
-    throw RunTimeError(ErrorNumber::InputPastEnd, path);
+    if (!steps.remove(path)) throw fileError(errno, path);
+  } catch (...) {
+    file.reset();  // some systems remove no file that is open
+    steps.remove(path);
+    throw;
   }
-  if (!steps.remove(path)) throw RunTimeError(ErrorNumber::PathFileAccess, path);
   return table;
 }
 
@@ -56,11 +63,12 @@ std::string workFilePath(const Dimension& model) {
 
 void addValues(Dimension& model, Long v, FileSteps& steps) {
   if (model.AddCount[v] == 0) return;
-  giveDefaultValues(model, v);
+  if (model.AddCount[v] < 0) throw RunTimeError(ErrorNumber::SubscriptOutOfRange);
   PerVariable<Long> newLast = model.LastPoint;
   newLast[v] = addLongs(newLast[v], model.AddCount[v]);
-  model.FileName = workFilePath(model);
   Table4 table = relaidTable(model, newLast, steps);
+  giveDefaultValues(model, v);
+  model.FileName = workFilePath(model);
   model.LastPoint = newLast;
   model.F = std::move(table);
   ResizeVarValues(model, v);

@@ -19,7 +19,7 @@ std::string workFilePath(const Dimension& model);
 ///
 /// Afterwards FileName names the work file, although that is deleted: a plain save goes there.
 /// Errors: a RunTimeError where the work file cannot be written or read, SubscriptOutOfRange for a negative count,
-/// Overflow, OutOfMemory. On an error the values and the table are as they were.
+/// Overflow, OutOfMemory. On an error the model is as it was and no work file is left.
 void addValues(Dimension& model, Long v, FileSteps& steps = systemFileSteps());
 
 }  // namespace tavimor

@@ -42,6 +42,10 @@ bool FileSteps::replace(const std::string& path, const std::string& target) {
 
 bool FileSteps::remove(const std::string& path) {
   std::error_code error;
+  if (std::filesystem::is_directory(path, error)) {
+    errno = EISDIR;
+    return false;
+  }
   std::filesystem::remove(path, error);
   return succeeded(error);
 }
