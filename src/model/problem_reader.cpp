@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <optional>
 #include <span>
 #include <utility>
 
@@ -20,21 +21,23 @@ constexpr Long kMostLastIndex = std::numeric_limits<Long>::max() - 1;  // so tha
 
 Long readLastVar(InputFile& file) { return file.readLong("the number of variables less one", 0, kMaxVariables - 1); }
 
-// The elements of a table with these bounds, or the largest number where there are more than it can count.
-std::uint64_t elements(const PerVariable<Long>& last) {
+// The elements of a table with these bounds; nothing where there are more than can be counted.
+std::optional<std::uint64_t> elements(const PerVariable<Long>& last) {
   std::uint64_t product = 1;
   for (const Long bound : last) {
     const std::uint64_t extent = static_cast<std::uint64_t>(bound) + 1;
-    if (product > std::numeric_limits<std::uint64_t>::max() / extent) return std::numeric_limits<std::uint64_t>::max();
+    if (product > std::numeric_limits<std::uint64_t>::max() / extent) return std::nullopt;
     product *= extent;
   }
   return product;
 }
 
-// Before memory is taken for numbers that are to come: the rest of the file must be able to hold them.
-void requireRoom(const InputFile& file, std::uint64_t needed, const char* items) {
-  if (needed > file.mostFieldsLeft())
-    file.refuse(std::to_string(needed) + " " + items, "room for " + std::to_string(file.mostFieldsLeft()) + " at most");
+// Before memory is taken for the numbers of a table: the rest of the file must be able to hold them.
+void requireRoom(const InputFile& file, const PerVariable<Long>& last, const std::string& items) {
+  const std::optional<std::uint64_t> needed = elements(last);
+  if (needed && *needed <= file.mostFieldsLeft()) return;
+  file.refuse(needed ? std::to_string(*needed) + " " + items : "more " + items + " than can be counted",
+              "room for " + std::to_string(file.mostFieldsLeft()) + " at most");
 }
 
 void readInOrder(InputFile& file, const char* item, double* target, std::size_t count) {
@@ -57,7 +60,7 @@ std::string readRecord(InputFile& file, Dimension& model, Long v) {
 }
 
 void readCoefficients(InputFile& file, Dimension& model) {
-  requireRoom(file, elements(model.Degree), "coefficients");
+  requireRoom(file, model.Degree, "coefficients");
   model.Coef.redim(model.Degree);
   readInOrder(file, "a coefficient", model.Coef.data(), model.Coef.size());  // first index fastest, as in memory
 }
@@ -79,7 +82,7 @@ void readCounts(InputFile& file, Dimension& model) {
     model.EquallySpaced[v] = file.readBoolean("whether the values are equally spaced");
     model.ValuesGiven[v] = true;
   }
-  requireRoom(file, elements(model.LastPoint), "function values");
+  requireRoom(file, model.LastPoint, "function values");
 }
 
 void readValueLists(InputFile& file, Dimension& model) {
@@ -148,9 +151,22 @@ void readStatistics(InputFile& file, Dimension& model) {
   model.AvgEstimated = file.readDouble("the average of the estimated values");
 }
 
+// The number of variables in the values file holds: where it is the smaller one, the further variables go, and with
+// them the coefficients of all their powers but the lowest.
+void forgetFurtherVariables(Dimension& model) {
+  for (Long v = model.LastVar + 1; v < kMaxVariables; ++v) {
+    model.VarName[v].clear();
+    model.LowerLimit[v] = model.UpperLimit[v] = model.Centre[v] = model.Period[v] = 0.0;
+    model.PeriodFlag[v] = false;
+    model.Degree[v] = 0;
+  }
+  if (model.FitDone) model.Coef.resizeKeeping(model.Degree);
+}
+
 void readValues(const std::string& path, Dimension& model) {
   InputFile file(path);
   model.LastVar = readLastVar(file);
+  forgetFurtherVariables(model);
   readCounts(file, model);
   readValueLists(file, model);
   readFunction(file, model);

@@ -13,7 +13,7 @@ using CentreTexts = PerVariable<std::string>;
 ///
 /// Replaces what a problem consists of: the per-variable entries, the values, F, FitDone and, where the file holds a
 /// fit, Coef and the statistics. All or nothing: on any error the model stays as it was.
-/// The number of variables stands in both files, and the one in the values file holds.
+/// The number of variables stands in both files, and the one in the values file holds: further variables are forgotten.
 /// Errors: a RunTimeError where the system refuses a file, a BadFile where its content does not fit. No table is
 /// made that is larger than the rest of the file can fill.
 CentreTexts readProblem(const std::string& path, Dimension& model);

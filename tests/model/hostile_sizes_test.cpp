@@ -1,0 +1,62 @@
+// A file may declare any size; memory is taken only for what the file can hold.
+#include <gtest/gtest.h>
+
+#include "support/allocation_meter.h"
+#include "support/expect_error.h"
+#include "support/pair_files.h"
+
+namespace tavimor {
+namespace {
+
+constexpr std::size_t kFixedBytes = 64 * 1024;  // what any reading takes: two small windows, paths, messages
+
+class HostileSizes : public test::PairTest {
+ protected:
+  void expectRefusedWithLittleMemory(const std::string& specification, const std::string& values) {
+    writePair(specification, values);
+    Dimension model;
+    test::resetAllocations();
+    EXPECT_THROW(readProblem(path(), model), BadFile);
+    EXPECT_LT(test::allocatedBytes(), kFixedBytes + 20 * (specification.size() + values.size()));
+  }
+};
+
+constexpr const char* kValues = "0\n1\n#TRUE#\n0\n1\n8\n9\n2,0,0,0,0,0\n";
+
+TEST_F(HostileSizes, TheMeterCounts) {
+  test::resetAllocations();
+  const std::vector<double> numbers(1000);
+  EXPECT_GE(test::allocatedBytes(), numbers.size() * sizeof(double));
+}
+
+TEST_F(HostileSizes, AHugeDegreeTakesNoMemory) {
+  for (const char* degree : {"100000", "2147483646"})
+    expectRefusedWithLittleMemory(std::string("0\nx,0,1,0,#FALSE#,0,") + degree + "\n#TRUE#\n1,2,3\n", kValues);
+}
+
+TEST_F(HostileSizes, HugeDegreesOfSeveralVariablesTakeNoMemory) {
+  for (const char* degree : {"1000", "65535", "2147483646"}) {
+    const std::string record = std::string("x,0,1,0,#FALSE#,0,") + degree + "\n";
+    expectRefusedWithLittleMemory("3\n" + record + record + record + record + "#TRUE#\n1,2,3\n", kValues);
+  }
+}
+
+TEST_F(HostileSizes, AHugeCountTakesNoMemory) {
+  for (const char* last : {"100000", "2147483646"})
+    expectRefusedWithLittleMemory("0\nx,0,1,0,#FALSE#,0,1\n#FALSE#\n", std::string("0\n") + last + "\n#TRUE#\n1,2\n");
+}
+
+// The product wraps around to a small number in 64 bits.
+TEST_F(HostileSizes, CountsWhoseProductWrapsAroundTakeNoMemory) {
+  const std::string count = "65535\n#TRUE#\n";
+  expectRefusedWithLittleMemory("0\nx,0,1,0,#FALSE#,0,1\n#FALSE#\n", "3\n" + count + count + count + count + "1,2,3\n");
+}
+
+// Each list alone could be there, not all of them with the function.
+TEST_F(HostileSizes, ManyNumbersThatAreNotThereTakeMemoryInProportionToTheFile) {
+  const std::string blanks(20000, ' ');
+  expectRefusedWithLittleMemory("0\nx,0,1,0,#FALSE#,0,1\n#FALSE#\n", "0\n9999\n#TRUE#\n1\n" + blanks + "\n");
+}
+
+}  // namespace
+}  // namespace tavimor
