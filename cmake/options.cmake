@@ -20,3 +20,7 @@ if(TAVIMOR_SANITIZE)
     -fsanitize=${TAVIMOR_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
   target_link_options(tavimor_options INTERFACE -fsanitize=${TAVIMOR_SANITIZE})
 endif()
+
+if(TAVIMOR_FUZZ)
+  target_compile_options(tavimor_options INTERFACE -fsanitize=fuzzer-no-link)
+endif()

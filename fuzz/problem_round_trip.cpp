@@ -1,0 +1,76 @@
+#include "problem_round_trip.h"
+
+#include <fstream>
+#include <iterator>
+#include <stdexcept>
+
+#include "model/problem_reader.h"
+#include "model/problem_writer.h"
+#include "runtime/bad_file.h"
+#include "runtime/file_pair.h"
+
+namespace tavimor {
+
+namespace {
+
+// What is written here need not survive a power cut.
+class QuickSteps : public FileSteps {
+ public:
+  bool flush(std::FILE*) override { return true; }
+  bool flushFolder(const std::string&) override { return true; }
+};
+
+void writeBytes(const std::string& path, std::string_view bytes) {
+  std::ofstream file(path, std::ios::binary);
+  file << bytes;
+  if (!file.flush()) throw std::runtime_error("cannot write " + path);
+}
+
+std::string bytesOfPair(const std::string& path) {
+  const PairPaths pair = pairPaths(path);
+  std::string bytes;
+  for (const std::string& name : {pair.specification, pair.values}) {
+    std::ifstream file(name, std::ios::binary);
+    if (!file) throw std::runtime_error("cannot read " + name);
+    bytes.append(std::istreambuf_iterator<char>(file), {});
+  }
+  return bytes;
+}
+
+void writeInput(std::string_view input, const PairPaths& pair) {
+  const std::size_t feed = input.find('\f');
+  writeBytes(pair.specification, input.substr(0, feed));
+  writeBytes(pair.values, feed == std::string_view::npos ? std::string_view() : input.substr(feed + 1));
+}
+
+// The largest numbers round to fifteen digits that no double reaches, and are infinite from then on.
+std::string withInfinities(std::string bytes) {
+  constexpr std::string_view beyond = "1.79769313486232E+308";
+  for (std::size_t at = bytes.find(beyond); at != std::string::npos; at = bytes.find(beyond, at))
+    bytes.replace(at, beyond.size(), "INF");
+  return bytes;
+}
+
+std::string savedBytes(const Dimension& model, const std::string& path) {
+  QuickSteps steps;
+  writeProblem(model, path, steps);
+  return bytesOfPair(path);
+}
+
+}  // namespace
+
+void checkProblemRoundTrip(std::string_view input, const std::string& path) {
+  writeInput(input, pairPaths(path));
+  Dimension model;
+  try {
+    readProblem(path, model);
+  } catch (const BadFile&) {
+    return;
+  }
+  const std::string saved = savedBytes(model, path);
+  Dimension opened;
+  readProblem(path, opened);
+  if (savedBytes(opened, path) != withInfinities(saved)) throw std::logic_error("save, open, save changed the files");
+}
+
+}  // namespace tavimor
