@@ -6,8 +6,8 @@
 namespace tavimor {
 
 /// Takes the input as a problem pair, the specification file and the values file with a form feed between them, and
-/// reads it from files beside `path`. An input that is refused is fine. One that is read must be the same after it was
-/// saved and opened again, and its bytes the same after the next save.
+/// reads it from files beside `path`. An input that is refused is fine. From one that is read,
+/// saving, opening and saving again must give the same bytes twice.
 /// Errors: std::logic_error where that does not hold.
 void checkProblemRoundTrip(std::string_view input, const std::string& path);
 
