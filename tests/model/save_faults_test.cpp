@@ -33,7 +33,8 @@ class SaveFaults : public test::PairTest, public testing::WithParamInterface<boo
 
   void begin() const {
     for (const std::string& name : test::namesIn(folder.path())) std::filesystem::remove(folder / name);
-    if (thereIsAnOldPair()) writeProblem(markedProblem(kOld), path());
+    FaultySteps steps;
+    if (thereIsAnOldPair()) writeProblem(markedProblem(kOld), path(), steps);
   }
 
   void save(FaultySteps& steps) const { writeProblem(markedProblem(kNew), path(), steps); }
@@ -67,7 +68,8 @@ class SaveFaults : public test::PairTest, public testing::WithParamInterface<boo
 
   // The next save works and leaves nothing but the pair.
   void expectTidyAfterNextSave() const {
-    writeProblem(markedProblem(kNew), path());
+    FaultySteps steps;
+    save(steps);
     EXPECT_EQ(readMark(), kNew);
     EXPECT_EQ(test::namesIn(folder.path()), (std::vector<std::string>{"p", "p.dat"}));
   }

@@ -16,7 +16,8 @@ constexpr int kKilled = 77;
 enum class Fault { None, Refused, Killed };
 
 /// The steps of writing files, counted from 1, with a fault at chosen ones: the step is refused and nothing is done,
-/// or the process ends there at once. A refused or killed writing leaves half of its bytes.
+/// or the process ends there at once. A refused or killed writing leaves half of its bytes. Nothing waits for the disk:
+/// without a fault these are the quick steps for tests that save often.
 class FaultySteps : public FileSteps {
  public:
   FaultySteps() = default;
@@ -29,9 +30,9 @@ class FaultySteps : public FileSteps {
     if (comes() != Fault::None) FileSteps::write(file, bytes.substr(0, bytes.size() / 2));
     return passes() && FileSteps::write(file, bytes);
   }
-  bool flush(std::FILE* file) override { return passes() && FileSteps::flush(file); }
+  bool flush(std::FILE*) override { return passes(); }
   bool close(FileHandle file) override { return passes() && FileSteps::close(std::move(file)); }
-  bool flushFolder(const std::string& folder) override { return passes() && FileSteps::flushFolder(folder); }
+  bool flushFolder(const std::string&) override { return passes(); }
   bool keepAs(const std::string& path, const std::string& secondName) override {
     return passes() && FileSteps::keepAs(path, secondName);
   }
