@@ -50,7 +50,7 @@ std::string readRecord(InputFile& file, Dimension& model, Long v) {
   model.VarName[v] = file.readText("the name of a variable");
   model.LowerLimit[v] = file.readDouble("the lower limit");
   model.UpperLimit[v] = file.readDouble("the upper limit");
-  const std::string centre = file.readText("the centre of expansion");
+  std::string centre = file.readText("the centre of expansion");
   model.Centre[v] = centreFromText(centre, model.LowerLimit[v], model.UpperLimit[v]);
   model.PeriodFlag[v] = file.readBoolean("the period flag");
   const std::string period = file.readText("the period");

@@ -17,7 +17,7 @@ namespace tavimor {
 
 namespace {
 
-constexpr std::size_t kWindowBytes = 256 * 1024;
+constexpr std::size_t kWindowBytes = std::size_t{256} * 1024;
 constexpr std::size_t kNumbersAtATime = 4096;
 constexpr std::ptrdiff_t kUsualFieldBytes = 64;  // a window with less left is filled before a number is read
 constexpr std::size_t kExcerptCharacters = 40;

@@ -8,7 +8,7 @@
 namespace tavimor {
 
 namespace {
-constexpr std::size_t kPendingBytes = 64 * 1024;
+constexpr std::size_t kPendingBytes = std::size_t{64} * 1024;
 }
 
 OutputFile::OutputFile(const std::string& path, FileSteps& steps, const std::string& target)

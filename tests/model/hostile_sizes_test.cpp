@@ -8,7 +8,8 @@
 namespace tavimor {
 namespace {
 
-constexpr std::size_t kFixedBytes = 64 * 1024;  // what any reading takes: two small windows, paths, messages
+constexpr std::size_t kFixedBytes =
+    std::size_t{64} * 1024;  // what any reading takes: two small windows, paths, messages
 
 class HostileSizes : public test::PairTest {
  protected:

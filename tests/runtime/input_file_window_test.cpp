@@ -13,7 +13,7 @@ namespace {
 
 using test::expectBadFile;
 
-constexpr std::size_t kWindow = 256 * 1024;
+constexpr std::size_t kWindow = std::size_t{256} * 1024;
 
 class InputFileWindow : public test::FolderTest {
  protected:

@@ -2,9 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <bit>
 #include <cmath>
+#include <cstdint>
 #include <cstdio>
-#include <cstring>
 #include <limits>
 #include <random>
 
@@ -77,9 +78,7 @@ TEST(NumberText, ALongHasItsDigits) {
 
 double randomDouble(std::mt19937_64& random) {
   while (true) {
-    const std::uint64_t bits = random();
-    double value = 0;
-    std::memcpy(&value, &bits, sizeof value);
+    const auto value = std::bit_cast<double>(std::uint64_t{random()});
     if (std::isfinite(value) && value != 0) return value;
   }
 }

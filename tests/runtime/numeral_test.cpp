@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <bit>
 #include <cmath>
 #include <cstdint>
 #include <cstdlib>
@@ -13,11 +14,7 @@
 namespace tavimor {
 namespace {
 
-std::uint64_t bits(double value) {
-  std::uint64_t word = 0;
-  std::memcpy(&word, &value, sizeof word);
-  return word;
-}
+std::uint64_t bits(double value) { return std::bit_cast<std::uint64_t>(value); }
 
 // The text is given without anything behind it, so that a sanitizer sees a read past its end.
 void expectAsStrtod(const std::string& text) {

@@ -3,8 +3,9 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <bit>
 #include <cmath>
-#include <cstring>
+#include <cstdint>
 
 #include "model/var_values.h"
 
@@ -17,9 +18,7 @@ int below(std::mt19937_64& random, int limit) { return static_cast<int>(random()
 // A finite number of any magnitude. The topmost ones are left out: their fifteen digits may round to infinity.
 double randomNumber(std::mt19937_64& random) {
   if (below(random, 4) == 0) return below(random, 2000) - 1000;
-  const std::uint64_t bits = random();
-  double value = 0;
-  std::memcpy(&value, &bits, sizeof value);
+  const auto value = std::bit_cast<double>(std::uint64_t{random()});
   return std::abs(value) < 1e308 ? value : 0.1;
 }
 
@@ -30,7 +29,7 @@ std::string randomName(std::mt19937_64& random) {
   return name;
 }
 
-bool haveSameBits(double a, double b) { return std::memcmp(&a, &b, sizeof a) == 0; }
+bool haveSameBits(double a, double b) { return std::bit_cast<std::uint64_t>(a) == std::bit_cast<std::uint64_t>(b); }
 
 void fill(Table4& table, std::mt19937_64& random) {
   std::generate_n(table.data(), table.size(), [&] { return randomNumber(random); });
