@@ -1,0 +1,59 @@
+#include "ui/controls/file_dialog.h"
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QFileInfo>
+
+#include "runtime/file_pair.h"
+#include "ui/controls/message_box.h"
+
+namespace tavimor {
+
+namespace {
+
+QString existingFiles(const std::string& path) {
+  QStringList existing;
+  for (const std::string& file : {path, valuesPath(path)})
+    if (const QString name = QString::fromStdString(file); QFileInfo::exists(name)) existing << name;
+  return existing.join(QLatin1Char('\n'));
+}
+
+FileDialogEnd show(QFileDialog& dialog, std::string& fileName) {
+  dialog.setOption(QFileDialog::DontConfirmOverwrite);
+  if (!fileName.empty()) {
+    const QFileInfo previous(QString::fromStdString(fileName));
+    dialog.setDirectory(previous.absolutePath());
+    dialog.selectFile(previous.fileName());
+  }
+  if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return FileDialogEnd::Cancelled;
+  fileName = dialog.selectedFiles().constFirst().toStdString();
+  return FileDialogEnd::Confirmed;
+}
+
+}  // namespace
+
+FileDialogEnd FileDialog::ShowOpen() {
+  QFileDialog dialog(QApplication::activeWindow(), QStringLiteral("Open"));
+  dialog.setFileMode(QFileDialog::ExistingFile);
+  return show(dialog, FileName);
+}
+
+FileDialogEnd FileDialog::ShowSave() {
+  std::string chosen = FileName;
+  do {
+    QFileDialog dialog(QApplication::activeWindow(), QStringLiteral("Save As"));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    if (show(dialog, chosen) == FileDialogEnd::Cancelled) return FileDialogEnd::Cancelled;
+  } while (!mayReplacePair(chosen));
+  FileName = chosen;
+  return FileDialogEnd::Confirmed;
+}
+
+bool mayReplacePair(const std::string& path) {
+  const QString existing = existingFiles(path);
+  return existing.isEmpty() ||
+         ask(QStringLiteral("The problem exists already:\n\n%1\n\nDo you want to replace it?").arg(existing)) ==
+             Answer::Yes;
+}
+
+}  // namespace tavimor

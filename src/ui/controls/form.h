@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QPointer>
+#include <QVector>
+#include <QWidget>
+
+namespace tavimor {
+
+/// A window of the program. A derived class calls its Form_Load as the last step of its constructor.
+///
+/// Forms live on the heap. One that is closed by the user, or unloaded by the program, runs Form_Unload once, leaves
+/// the set of open forms and is deleted as soon as its events are over: keep a form by QPointer, or look it up.
+class Form : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit Form(const QString& name);
+  ~Form() override;
+
+  /// What closing the form from its title bar does. Once it has begun, it does nothing more.
+  void unload();
+
+  /// Shown but refusing keys and clicks, as while another form is worked in; enable() brings the focus back.
+  void disable();
+  void enable();
+
+  /// The forms that are loaded, shown or hidden, in the order in which they were made.
+  static const QVector<Form*>& openForms();
+
+  /// False from the beginning of its unloading on.
+  bool isOpen() const { return openForms().contains(const_cast<Form*>(this)); }
+
+ protected:
+  virtual void Form_Unload() {}
+  void closeEvent(QCloseEvent* event) override;
+
+ private:
+  QPointer<QWidget> focusBeforeDisabled_;
+};
+
+}  // namespace tavimor

@@ -1,0 +1,59 @@
+#pragma once
+
+#include <QChar>
+#include <QLineEdit>
+
+class QFocusEvent;
+
+namespace tavimor {
+
+/// What Enter does in a text box that has not swallowed it.
+enum class EnterKey { Stays, MovesOn };
+
+/// A text box with the events of the program's fields.
+///
+/// Focus, in this order: Validate and LostFocus of the box that is left, then GotFocus of the one that is entered.
+/// Validate comes before the focus goes to another control of the same window, by Tab, Shift+Tab, mouse or program.
+/// Where a handler cancels it, the focus stays, no LostFocus comes, and a click that wanted the focus is swallowed.
+/// A box that is hidden or disabled loses the focus without Validate. Menus, dialogs, other windows and other
+/// programs take the focus for a while only: neither Validate nor LostFocus comes, nor GotFocus on return.
+///
+/// Keys, in this order: KeyDown, KeyPress, Change. Change comes for every change of the text, by hand or by program.
+class TextBox : public QLineEdit {
+  Q_OBJECT
+
+ public:
+  explicit TextBox(const QString& name, QWidget* parent = nullptr);
+
+  void setEnterKey(EnterKey enterKey) { enterKey_ = enterKey; }
+
+ signals:
+  void GotFocus();
+  void Change();
+  /// The key's Qt::Key code; a handler that sets it to 0 swallows the key.
+  void KeyDown(int& keyCode);
+  /// A typed character, Backspace, Enter and Escape included, shortcuts and pasted text not; a handler may change it,
+  /// or discard it by making it null.
+  void KeyPress(QChar& character);
+  void Validate(bool& cancel);
+  void LostFocus();
+
+ protected:
+  void focusInEvent(QFocusEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void inputMethodEvent(QInputMethodEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  bool isLeftFor(const QWidget* next, Qt::FocusReason reason) const;
+  bool mayLeave();
+  void keepFocus(Qt::FocusReason reason);
+  QChar filtered(QChar character);
+  void press(QKeyEvent* event);
+
+  EnterKey enterKey_ = EnterKey::Stays;
+  bool holdsFocus_ = false;  // GotFocus has come, and no LostFocus since
+};
+
+}  // namespace tavimor

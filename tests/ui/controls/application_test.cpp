@@ -1,0 +1,115 @@
+#include "ui/controls/application.h"
+
+#include <gtest/gtest.h>
+
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QTest>
+#include <new>
+
+#include "ui/support/dialogs.h"
+
+namespace tavimor {
+namespace {
+
+// A button whose event procedure fails, and an application whose ending is only noted.
+class Dispatcher : public testing::Test {
+ protected:
+  Dispatcher() {
+    application().setEnding([this](int exitCode) { endedWith.push_back(exitCode); });
+    application().setProblemSaver([this](const std::string& path) {
+      savedTo.push_back(path);
+      if (savedTo.size() <= failingSaves) throw RunTimeError(ErrorNumber::PermissionDenied, path);
+    });
+  }
+
+  ~Dispatcher() override {
+    application().setEnding([](int) {});
+    application().setProblemSaver({});
+  }
+
+  static Application& application() { return *static_cast<Application*>(qApp); }
+
+  template <class Failure>
+  void clickAndFail(const Failure& failure) {
+    QPushButton button(QStringLiteral("Fail"));
+    QObject::connect(&button, &QPushButton::clicked, [&failure] { throw failure; });
+    button.show();
+    QTest::mouseClick(&button, Qt::LeftButton);
+  }
+
+  QString folderFile(const char* name) { return folder.filePath(QLatin1String(name)); }
+
+  Dialogs dialogs;
+  QTemporaryDir folder;
+  std::vector<int> endedWith;
+  std::vector<std::string> savedTo;
+  std::size_t failingSaves = 0;
+};
+
+TEST_F(Dispatcher, ReportsTheNumberAndTheDescriptionAndEnds) {
+  QString text;
+  dialogs.expectAndPress(QStringLiteral("End"), &text);
+  clickAndFail(RunTimeError(ErrorNumber::SubscriptOutOfRange));
+  EXPECT_EQ(text, QStringLiteral("Run-time error '9':\n\nSubscript out of range"));
+  EXPECT_EQ(endedWith, std::vector<int>{1});
+  EXPECT_TRUE(savedTo.empty());
+}
+
+TEST_F(Dispatcher, ReportsThePathOfAFile) {
+  QString text;
+  dialogs.expectAndPress(QStringLiteral("End"), &text);
+  clickAndFail(RunTimeError(ErrorNumber::DiskFull, "/data/ozone"));
+  EXPECT_EQ(text, QStringLiteral("Run-time error '61':\n\nDisk full\n/data/ozone"));
+}
+
+TEST_F(Dispatcher, ReportsThatMemoryHasRunOut) {
+  QString text;
+  dialogs.expectAndPress(QStringLiteral("End"), &text);
+  clickAndFail(std::bad_alloc());
+  EXPECT_EQ(text, QStringLiteral("Run-time error '7':\n\nOut of memory"));
+}
+
+TEST_F(Dispatcher, TheBoxIsCriticalAndHasTheProgramsTitle) {
+  dialogs.expect([](QDialog& dialog) {
+    EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Tavimor"));
+    EXPECT_EQ(dynamic_cast<QMessageBox&>(dialog).icon(), QMessageBox::Critical);
+    QTest::keyClick(&dialog, Qt::Key_Escape);
+  });
+  clickAndFail(RunTimeError(ErrorNumber::Overflow));
+  EXPECT_EQ(endedWith, std::vector<int>{1});
+}
+
+TEST_F(Dispatcher, SavesACopyAndEnds) {
+  dialogs.expectAndPress(QStringLiteral("Save a copy..."));
+  dialogs.expectAndType(folderFile("copy"));
+  clickAndFail(RunTimeError(ErrorNumber::Overflow));
+  EXPECT_EQ(savedTo, std::vector<std::string>{folderFile("copy").toStdString()});
+  EXPECT_EQ(endedWith, std::vector<int>{1});
+}
+
+TEST_F(Dispatcher, TheBoxComesBackWhereTheCopyFails) {
+  failingSaves = 1;
+  QString reason;
+  dialogs.expectAndPress(QStringLiteral("Save a copy..."));
+  dialogs.expectAndType(folderFile("copy"));
+  dialogs.expectAndPress(QStringLiteral("OK"), &reason);
+  dialogs.expectAndPress(QStringLiteral("Save a copy..."));
+  dialogs.expectAndType(folderFile("second"));
+  clickAndFail(RunTimeError(ErrorNumber::Overflow));
+  EXPECT_TRUE(reason.startsWith(QStringLiteral("Run-time error '70':"))) << reason.toStdString();
+  EXPECT_EQ(savedTo.size(), 2U);
+  EXPECT_EQ(endedWith, std::vector<int>{1});
+}
+
+TEST_F(Dispatcher, TheBoxComesBackWhereTheCopyIsCalledOff) {
+  dialogs.expectAndPress(QStringLiteral("Save a copy..."));
+  dialogs.expectAndCancel();
+  dialogs.expectAndPress(QStringLiteral("End"));
+  clickAndFail(RunTimeError(ErrorNumber::Overflow));
+  EXPECT_TRUE(savedTo.empty());
+  EXPECT_EQ(endedWith, std::vector<int>{1});
+}
+
+}  // namespace
+}  // namespace tavimor
