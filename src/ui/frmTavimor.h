@@ -1,0 +1,92 @@
+#pragma once
+
+#include <string>
+
+#include "model/Dimension.h"
+#include "model/spec_fields.h"
+#include "ui/controls/file_dialog.h"
+#include "ui/controls/form.h"
+#include "ui/frmTavimor_controls.h"
+
+namespace tavimor {
+
+/// The main window, the owner of the run: the user types the problem into it step by step, fits it and reads the
+/// results. All data live in the model, which the other windows share.
+class frmTavimor : public Form, private MainControls {
+  Q_OBJECT
+
+ public:
+  explicit frmTavimor(Dimension& model);
+
+  void GetVarX(Long v, Long i);
+  void SetVarX(Long v, Long i);
+
+  /// Shows block k and puts the caret into its lower limit.
+  void EditLimit(Long k);
+
+  /// Shows the model in the fields, the centres' texts excepted.
+  void SetDisplayedSpecs();
+
+  /// Makes the blocks of the declared variables and lays the tables out by the numbers that stand in the fields.
+  void LoadObjects();
+
+  void Compute();
+  void Evaluate();
+
+  /// Opens a problem as the Open command does once a file is chosen.
+  void openFile(const std::string& path);
+
+ private:
+  void Form_Load();
+  void Form_Unload() override;
+  void connectCommands();
+  void cmdNextVar_Click();
+  void cmdPrevVar_Click();
+  void showBlockNumber(Long number);
+
+  // Entry rules
+  void connectHeading();
+  void connectBlock(Long k);
+  void txtOrder_Validate(bool& cancel);
+  void txtOrder_LostFocus();
+  void txtVarNams_Validate(bool& cancel);
+  void txtVarNams_LostFocus();
+  void txtTerms_GotFocus(Long k);
+  void txtTerms_Validate(Long k, bool& cancel);
+  void txtTerms_LostFocus(Long k);
+  void txtPoints_GotFocus(Long k);
+  void txtPoints_Validate(Long k, bool& cancel);
+  void txtPoints_LostFocus(Long k);
+  void namesGiven();
+
+  // Files
+  void mnuOpen_Click();
+  void mnuSave_Click();
+  void mnuSaveAs_Click();
+  void takeSaveName();
+  void SaveProblem();
+  void showOpened(Dimension opened, const AllSpecFields& fields);
+
+  // Compute and listing
+  void cmdCompute_Click();
+  void ClearResults();
+  void CaptureSpecs();
+  void fitTablesToSpecs();
+  void ShowResults();
+  void ShowFitIfDone();
+  AllSpecFields specFields() const;
+
+  // Values and function
+  void cmdEditVars_Click(Long Index);
+  void cmdAddVars_Click(Long Index);
+  void cmdEditFun_Click();
+  void EditVarValues(Long v);
+  void giveDefaultValues(Long v);
+  QStringList askForStartingSet();
+
+  Dimension& model_;
+  FileDialog cdbFile;
+  std::string unreadableFile_;  // a file of the user's that could not be opened: never replaced unasked
+};
+
+}  // namespace tavimor
