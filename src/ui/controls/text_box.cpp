@@ -31,6 +31,7 @@ void TextBox::focusInEvent(QFocusEvent* event) {
   if (holdsFocus_) return;
   holdsFocus_ = true;
   emit GotFocus();
+  isEntryClick_ = event->reason() == Qt::MouseFocusReason && hasSelectedText();
 }
 
 void TextBox::focusOutEvent(QFocusEvent* event) {
@@ -71,6 +72,19 @@ bool TextBox::eventFilter(QObject* watched, QEvent* event) {
   qApp->removeEventFilter(this);
   event->accept();
   return true;
+}
+
+void TextBox::mousePressEvent(QMouseEvent* event) {
+  if (!isEntryClick_) QLineEdit::mousePressEvent(event);
+}
+
+void TextBox::mouseMoveEvent(QMouseEvent* event) {
+  if (!isEntryClick_) QLineEdit::mouseMoveEvent(event);
+}
+
+void TextBox::mouseReleaseEvent(QMouseEvent* event) {
+  if (!isEntryClick_) QLineEdit::mouseReleaseEvent(event);
+  isEntryClick_ = false;
 }
 
 void TextBox::keyPressEvent(QKeyEvent* event) {

@@ -15,6 +15,7 @@ enum class EnterKey { Stays, MovesOn };
 /// Focus, in this order: Validate and LostFocus of the box that is left, then GotFocus of the one that is entered.
 /// Validate comes before the focus goes to another control of the same window, by Tab, Shift+Tab, mouse or program.
 /// Where a handler cancels it, the focus stays, no LostFocus comes, and a click that wanted the focus is swallowed.
+/// What a GotFocus handler selects stays selected, also where a click brought the focus.
 /// A box that is hidden or disabled loses the focus without Validate. Menus, dialogs, other windows and other
 /// programs take the focus for a while only: neither Validate nor LostFocus comes, nor GotFocus on return.
 ///
@@ -43,6 +44,9 @@ class TextBox : public QLineEdit {
   void focusOutEvent(QFocusEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void inputMethodEvent(QInputMethodEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
@@ -53,7 +57,8 @@ class TextBox : public QLineEdit {
   void press(QKeyEvent* event);
 
   EnterKey enterKey_ = EnterKey::Stays;
-  bool holdsFocus_ = false;  // GotFocus has come, and no LostFocus since
+  bool holdsFocus_ = false;    // GotFocus has come, and no LostFocus since
+  bool isEntryClick_ = false;  // the click that brought the focus is not over
 };
 
 }  // namespace tavimor

@@ -193,6 +193,15 @@ TEST_F(TextBoxFocus, ABoxThatIsHiddenLosesTheFocusWithoutValidate) {
   EXPECT_EQ(log.take(), "first.LostFocus second.GotFocus");
 }
 
+TEST_F(TextBoxFocus, TheClickThatEntersLeavesTheSelectionOfTheHandler) {
+  QObject::connect(&second, &TextBox::GotFocus, &second, &QLineEdit::selectAll);
+  second.setText(QStringLiteral("12345"));
+  QTest::mouseClick(&second, Qt::LeftButton);
+  EXPECT_EQ(second.selectedText(), QStringLiteral("12345"));
+  QTest::mouseClick(&second, Qt::LeftButton);
+  EXPECT_EQ(second.selectedText(), QString());
+}
+
 TEST_F(TextBoxFocus, ALostFocusHandlerMaySendTheFocusElsewhere) {
   TextBox third(QStringLiteral("third"), &window);
   third.show();

@@ -38,12 +38,14 @@ Dialogs::Dialogs() { lookAgain(); }
 
 Dialogs::~Dialogs() { EXPECT_TRUE(replies_.empty()) << replies_.size() << " expected dialog(s) did not come"; }
 
-void Dialogs::expectAndType(const QString& text) {
-  expect([text](QDialog& dialog) {
+void Dialogs::expectAndType(const QString& text, const std::function<void()>& beforeEnter) {
+  expect([text, beforeEnter](QDialog& dialog) {
     QLineEdit* line = lineOf(dialog);
     ASSERT_NE(line, nullptr);
+    line->setCompleter(nullptr);  // its list takes the activation where there is no window manager
     line->selectAll();
     QTest::keyClicks(line, text);
+    if (beforeEnter) beforeEnter();
     QTest::keyClick(line, Qt::Key_Return);
   });
 }
@@ -81,7 +83,8 @@ void Dialogs::look() {
     refuse(*dialog, "a dialog that nobody expected");
     return;
   }
-  EXPECT_TRUE(QTest::qWaitForWindowActive(dialog));
+  dialog->activateWindow();  // the offscreen platform leaves it to the parent
+  EXPECT_TRUE(QTest::qWaitFor([dialog] { return QApplication::activeWindow() == dialog; }));
   const Reply reply = std::move(replies_.front());
   replies_.pop_front();
   reply(*dialog);

@@ -23,7 +23,7 @@ class Dialogs : public QObject {
   void expect(Reply reply) { replies_.push_back(std::move(reply)); }
 
   /// Types a text into the dialog's line and presses Enter; an input box or a file dialog.
-  void expectAndType(const QString& text);
+  void expectAndType(const QString& text, const std::function<void()>& beforeEnter = {});
 
   /// Presses Escape.
   void expectAndCancel();
