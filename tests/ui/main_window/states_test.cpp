@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <QDir>
+#include <QTimer>
 
 #include "ui/support/main_window_test.h"
 
@@ -174,6 +175,11 @@ TEST_F(PublicOperations, ClosingTheWindowClosesTheOthers) {
   QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   EXPECT_TRUE(other.isNull());
   EXPECT_TRUE(window.isNull());
+}
+
+TEST_F(PublicOperations, ClosingTheWindowEndsTheProgram) {
+  QTimer::singleShot(0, window, [this] { window->close(); });
+  EXPECT_EQ(QApplication::exec(), 0);
 }
 
 }  // namespace
