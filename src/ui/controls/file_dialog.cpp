@@ -13,7 +13,8 @@ namespace {
 
 QString existingFiles(const std::string& path) {
   QStringList existing;
-  for (const std::string& file : {path, valuesPath(path)})
+  const PairPaths pair = pairPaths(path);
+  for (const std::string& file : {pair.specification, pair.values})
     if (const QString name = QString::fromStdString(file); QFileInfo::exists(name)) existing << name;
   return existing.join(QLatin1Char('\n'));
 }
