@@ -5,7 +5,7 @@
 #include <cmath>
 
 #include "model/var_values.h"
-#include "support/problems.h"
+#include "support/stored_problems.h"
 
 namespace tavimor {
 namespace {

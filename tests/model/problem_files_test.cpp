@@ -6,7 +6,7 @@
 #include "model/problem_writer.h"
 #include "support/faulty_steps.h"
 #include "support/pair_files.h"
-#include "support/problems.h"
+#include "support/stored_problems.h"
 
 namespace tavimor {
 namespace {

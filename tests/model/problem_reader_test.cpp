@@ -5,7 +5,7 @@
 #include "model/open_problem.h"
 #include "support/expect_error.h"
 #include "support/pair_files.h"
-#include "support/problems.h"
+#include "support/stored_problems.h"
 
 namespace tavimor {
 namespace {

@@ -7,7 +7,7 @@
 #include "support/expect_error.h"
 #include "support/faulty_steps.h"
 #include "support/pair_files.h"
-#include "support/problems.h"
+#include "support/stored_problems.h"
 
 namespace tavimor {
 namespace {

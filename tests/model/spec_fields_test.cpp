@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "support/expect_error.h"
-#include "support/problems.h"
+#include "support/stored_problems.h"
 
 namespace tavimor {
 namespace {

@@ -1,4 +1,4 @@
-#include "support/problems.h"
+#include "support/stored_problems.h"
 
 #include <gtest/gtest.h>
 
