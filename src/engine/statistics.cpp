@@ -6,6 +6,7 @@
 
 #include "engine/resume_next.h"
 #include "platform/memory.h"
+#include "runtime/checked_arithmetic.h"
 
 namespace tavimor {
 
