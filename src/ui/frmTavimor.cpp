@@ -21,6 +21,7 @@ frmTavimor::frmTavimor(Dimension& model)
 
 void frmTavimor::Form_Load() {
   model_.WorkDir = QDir::currentPath().toStdString();
+  setUpScript();
   mnuSave->setEnabled(false);
   mnuSaveAs->setEnabled(false);
   mnuPrint->setEnabled(false);
@@ -54,6 +55,7 @@ void frmTavimor::connectCommands() {
   connect(cmdPrevVar, &QPushButton::clicked, this, &frmTavimor::cmdPrevVar_Click);
   connect(cmdEditFun, &QPushButton::clicked, this, &frmTavimor::cmdEditFun_Click);
   connect(cmdCompute, &QPushButton::clicked, this, &frmTavimor::cmdCompute_Click);
+  connect(cmdEvaluations, &QPushButton::clicked, this, &frmTavimor::cmdEvaluations_Click);
 }
 
 void frmTavimor::GetVarX(Long v, Long i) { tavimor::GetVarX(model_, v, i); }

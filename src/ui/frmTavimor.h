@@ -1,14 +1,18 @@
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "model/Dimension.h"
 #include "model/spec_fields.h"
+#include "script/ScriptHost.h"
 #include "ui/controls/file_dialog.h"
 #include "ui/controls/form.h"
 #include "ui/frmTavimor_controls.h"
 
 namespace tavimor {
+
+class frmEvaluations;
 
 /// The main window, the owner of the run: the user types the problem into it step by step, fits it and reads the
 /// results. All data live in the model, which the other windows share.
@@ -35,6 +39,9 @@ class frmTavimor : public Form, private MainControls {
 
   /// Opens a problem as the Open command does once a file is chosen.
   void openFile(const std::string& path);
+
+  ScriptHost ScriptControl1;
+  Long ierr = 0;  // the last run-time error that a function of the script object met
 
  private:
   void Form_Load();
@@ -82,9 +89,16 @@ class frmTavimor : public Form, private MainControls {
   void cmdEditFun_Click();
   void EditVarValues(Long v);
   void giveDefaultValues(Long v);
-  QStringList askForStartingSet();
+  std::optional<PerVariable<Long>> askForStartingSet();
+
+  // Script engine and evaluations
+  void setUpScript();
+  void ScriptControl1_Error();
+  void cmdEvaluations_Click();
 
   Dimension& model_;
+  Class1 sh_{ierr};
+  QPointer<frmEvaluations> evaluations_;
   FileDialog cdbFile;
   std::string unreadableFile_;  // a file of the user's that could not be opened: never replaced unasked
 };

@@ -1,30 +1,14 @@
-#include <QStringList>
-
 #include "engine/capture_specs.h"
 #include "model/add_values.h"
+#include "model/grid_walk.h"
 #include "model/var_values.h"
 #include "runtime/number_text.h"
-#include "runtime/run_time_error.h"
 #include "runtime/val.h"
 #include "ui/controls/input_box.h"
+#include "ui/frmFun.h"
 #include "ui/frmTavimor.h"
 
 namespace tavimor {
-
-namespace {
-
-std::string part(const QStringList& parts, Long v) {
-  if (v >= parts.size()) throw RunTimeError(ErrorNumber::SubscriptOutOfRange);
-  return parts[v].toStdString();
-}
-
-bool isWithinGrid(const Dimension& model, const QStringList& parts) {
-  for (Long v = 0; v <= model.LastVar; ++v)
-    if (Val(part(parts, v)) > model.LastPoint[v]) return false;
-  return true;
-}
-
-}  // namespace
 
 void frmTavimor::cmdEditVars_Click(Long Index) {
   CaptureSpecs();
@@ -57,26 +41,26 @@ void frmTavimor::giveDefaultValues(Long v) {
 void frmTavimor::EditVarValues(Long v) { model_.V = v; }
 
 void frmTavimor::cmdEditFun_Click() {
-  const QStringList parts = askForStartingSet();
-  if (parts.isEmpty()) return;
+  const std::optional<PerVariable<Long>> start = askForStartingSet();
+  if (!start) return;
   RegenerateSpacedValues(model_, spacedMarks(specFields()));
   CaptureSpecs();
   for (Long v = 0; v <= model_.LastVar; ++v) {
     blocks.at(v).txtPoints->setEnabled(false);
     tavimor::giveDefaultValues(model_, v);
   }
-  for (Long v = 0; v <= model_.LastVar; ++v) model_.StartIdx[v] = ValLong(part(parts, v));
+  model_.StartIdx = *start;
+  disable();
+  (new frmFun(model_, *this))->show();
 }
 
-QStringList frmTavimor::askForStartingSet() {
-  QStringList parts;
-  do {
+std::optional<PerVariable<Long>> frmTavimor::askForStartingSet() {
+  for (;;) {
     model_.InText = InputBox(QStringLiteral("Enter indices of starting set, separated by commas:"),
                              QStringLiteral("Review of function"));
-    if (model_.InText.empty()) return {};
-    parts = QString::fromStdString(model_.InText).split(QLatin1Char(','));
-  } while (!isWithinGrid(model_, parts));
-  return parts;
+    if (model_.InText.empty()) return std::nullopt;
+    if (const auto start = gridPointFromText(model_, model_.InText)) return start;
+  }
 }
 
 }  // namespace tavimor

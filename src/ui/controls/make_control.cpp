@@ -1,0 +1,19 @@
+#include "ui/controls/make_control.h"
+
+#include <QFontMetrics>
+
+namespace tavimor {
+
+QPushButton* makeButton(const QString& name, const char* caption) {
+  auto* button = makeControl<QPushButton>(name, caption);
+  button->setFocusPolicy(Qt::StrongFocus);
+  button->setAutoDefault(true);
+  return button;
+}
+
+int widthOf(const QWidget& control, int digits) {
+  constexpr int kMargins = 2;  // digits' worth of frame and cursor
+  return (digits + kMargins) * control.fontMetrics().horizontalAdvance(QLatin1Char('0'));
+}
+
+}  // namespace tavimor
