@@ -10,8 +10,8 @@ namespace tavimor {
 namespace {
 
 // Kept word for word, "show" included.
-const QString kAdd = QStringLiteral("Add the number of units show on the right");
-const QString kSubtract = QStringLiteral("Subtract the number of units show on the right");
+constexpr const char* kAdd = "Add the number of units show on the right";
+constexpr const char* kSubtract = "Subtract the number of units show on the right";
 
 constexpr int kIndexDigits = 5;
 constexpr int kValueDigits = 22;  // "-1.23456789012345E-300"
@@ -37,10 +37,10 @@ TextBox* makeIndexBox(const QString& name) {
   return box;
 }
 
-QPushButton* makeStep(const QString& name, const char* caption, const QString& toolTip) {
+QPushButton* makeStep(const QString& name, const char* caption, const char* toolTip) {
   QPushButton* button = makeButton(name, caption);
-  button->setToolTip(toolTip);
-  button->setAccessibleName(toolTip);
+  button->setToolTip(QLatin1String(toolTip));
+  button->setAccessibleName(QLatin1String(toolTip));
   button->setFixedWidth(2 * button->sizeHint().height());
   return button;
 }

@@ -1,104 +1,14 @@
-#include "ui/frmFun.h"
-
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <QTest>
-
-#include "model/var_values.h"
-#include "runtime/number_text.h"
-#include "ui/frmTavimor.h"
-#include "ui/support/dialogs.h"
+#include "ui/support/function_window_test.h"
 
 namespace tavimor {
 namespace {
 
 using ::testing::ElementsAre;
 
-class FunctionWindow : public testing::Test {
- protected:
-  /// Opens the window for a grid of these counts, with values that tell where they stand.
-  void open(const std::vector<Long>& counts, const PerVariable<Long>& start = {}) {
-    main = new frmTavimor(model);
-    model.LastVar = static_cast<Long>(counts.size()) - 1;
-    for (std::size_t k = 0; k < counts.size(); ++k) {
-      model.LastPoint[k] = counts[k] - 1;
-      model.VarName[k] = std::string("var") + std::to_string(k);
-    }
-    model.F.redim(model.LastPoint);
-    for (std::size_t n = 0; n < model.F.size(); ++n) model.F.data()[n] = 0.5 + static_cast<double>(n);
-    for (Long k = 0; k <= model.LastVar; ++k) fillValues(k);
-    model.StartIdx = start;
-    main->show();
-    main->disable();
-    window = new frmFun(model, *main);
-    window->show();
-    window->activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(window));
-  }
-
-  void fillValues(Long k) {
-    ResizeVarValues(model, k);
-    for (Long i = 0; i <= model.LastPoint[k]; ++i) {
-      model.VarX = 100.0 * k + i + 0.25;
-      main->SetVarX(k, i);
-    }
-  }
-
-  void TearDown() override {
-    delete window;
-    delete main;
-  }
-
-  template <class Control = TextBox>
-  Control* find(const char* name) {
-    auto* control = window->findChild<Control*>(QLatin1String(name));
-    EXPECT_NE(control, nullptr) << name;
-    return control;
-  }
-
-  std::string text(const char* name) { return find(name)->text().toStdString(); }
-
-  void click(const char* name) { QTest::mouseClick(find<QPushButton>(name), Qt::LeftButton); }
-
-  /// Replaces a box's text by typing, the box entered by a click.
-  void type(const char* name, const char* typed) {
-    TextBox* box = find(name);
-    QTest::mouseClick(box, Qt::LeftButton);
-    box->selectAll();
-    QTest::keyClicks(box, QLatin1String(typed));
-  }
-
-  double x(Long k, Long i) {
-    main->GetVarX(k, i);
-    return model.VarX;
-  }
-
-  /// The indices that the function call shows, as "i0,i1".
-  std::string point() {
-    QStringList indices;
-    for (Long k = 0; k <= model.LastVar; ++k)
-      indices << window->findChild<TextBox*>(QStringLiteral("txtFunIndex(%1)").arg(k))->text();
-    return indices.join(QLatin1Char(',')).toStdString();
-  }
-
-  void expectAllBoxesShow(const PerVariable<Long>& at) {
-    for (Long k = 0; k <= model.LastVar; ++k) {
-      const QString index = QString::number(at[k]), element = QStringLiteral("(%1)").arg(k);
-      EXPECT_EQ(window->findChild<TextBox*>(QStringLiteral("txtFunIndex") + element)->text(), index);
-      EXPECT_EQ(window->findChild<TextBox*>(QStringLiteral("txtVarIndex") + element)->text(), index);
-      EXPECT_EQ(window->findChild<TextBox*>(QStringLiteral("txtVar") + element)->text().toStdString(),
-                numberText(x(k, at[k])));
-    }
-    EXPECT_EQ(text("txtFun"), numberText(model.F(at[0], at[1], at[2], at[3])));
-    EXPECT_EQ(model.StartIdx, at);
-  }
-
-  Dialogs dialogs;
-  Dimension model;
-  QPointer<frmTavimor> main;
-  QPointer<frmFun> window;
-};
+using FunctionWindow = FunctionWindowTest;
 
 TEST_F(FunctionWindow, OpensAtTheStartingPointWithTheFunctionValueSelected) {
   open({3, 2}, {2, 1});
@@ -119,9 +29,7 @@ TEST_F(FunctionWindow, ShowsTheControlsOfTheDeclaredVariablesOnly) {
   for (int k = 0; k < kMaxVariables; ++k)
     for (const char* array :
          {"txtFunIndex", "lblVar", "txtVarIndex", "lblClose", "txtVar", "cmdDecIndex", "cmdIncIndex"})
-      EXPECT_EQ(find<QWidget>(qPrintable(QStringLiteral("%1(%2)").arg(QLatin1String(array)).arg(k)))->isVisible(),
-                k < 2)
-          << array << k;
+      EXPECT_EQ(find<QWidget>(element(array, k))->isVisible(), k < 2) << array << k;
   EXPECT_TRUE(find<QLabel>("lblComma(0)")->isVisible());
   EXPECT_FALSE(find<QLabel>("lblComma(1)")->isVisible());
 }
