@@ -301,6 +301,15 @@ TEST_F(FunctionWindow, EveryBoxIsSelectedWhenItGetsTheFocus) {
   }
 }
 
+TEST_F(FunctionWindow, AClickIntoABoxSelectsItsTextSoThatTypingReplacesIt) {
+  open({3, 2});
+  for (const char* name : {"txtVar(0)", "txtFunIndex(1)", "txtVarIndex(0)", "txtFun"}) {
+    QTest::mouseClick(find(name), Qt::LeftButton);
+    QTest::keyClicks(find(name), QStringLiteral("1"));
+    EXPECT_EQ(text(name), "1") << name;
+  }
+}
+
 TEST_F(FunctionWindow, TabGoesAsOneReads) {
   open({3, 2});
   find("txtFunIndex(0)")->setFocus();
