@@ -85,7 +85,8 @@ class FunctionWindowWalk : public FunctionWindowTest {
     expected.n = stands;
   }
 
-  Expected expected{{3, 4, 1, 2}, 0, std::vector<double>(3 * 4 * 1 * 2), std::vector<std::vector<double>>(4)};
+  // 3 x 4 x 1 x 2 points.
+  Expected expected{{3, 4, 1, 2}, 0, std::vector<double>(24), std::vector<std::vector<double>>(4)};
   std::mt19937 random{20};
 };
 

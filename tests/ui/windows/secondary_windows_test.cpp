@@ -11,8 +11,6 @@ namespace {
 
 using ::testing::StartsWith;
 
-const QString kPrompt = QStringLiteral("Enter indices of starting set, separated by commas:");
-
 /// The main window with the problem of two variables (3 and 2 values), and what it opens.
 class SecondaryWindows : public MainWindowTest {
  protected:
@@ -32,7 +30,8 @@ class SecondaryWindows : public MainWindowTest {
   void review(const QString& answer) {
     dialogs.expect([this, answer](QDialog& dialog) {
       EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Review of function"));
-      EXPECT_EQ(dialog.findChild<QLabel*>()->text(), kPrompt);
+      EXPECT_EQ(dialog.findChild<QLabel*>()->text(),
+                QStringLiteral("Enter indices of starting set, separated by commas:"));
       QTest::keyClicks(dialog.findChild<QLineEdit*>(), answer);
       QTest::keyClick(dialog.findChild<QLineEdit*>(), Qt::Key_Return);
     });
