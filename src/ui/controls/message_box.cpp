@@ -17,8 +17,6 @@ int show(QMessageBox::Icon icon, const QString& text, QMessageBox::StandardButto
 
 }  // namespace
 
-const QString kTitle = QStringLiteral("Tavimor");
-
 void showWarning(const QString& text) { show(QMessageBox::Warning, text, QMessageBox::Ok, QMessageBox::Ok); }
 
 Answer ask(const QString& question) {

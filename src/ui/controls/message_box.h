@@ -5,7 +5,7 @@
 namespace tavimor {
 
 /// The title of every message box that has none of its own.
-extern const QString kTitle;
+inline constexpr char kTitle[] = "Tavimor";
 
 /// Shows a text and waits for OK. The text is taken as it stands, never as markup.
 void showWarning(const QString& text);

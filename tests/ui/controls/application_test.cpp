@@ -30,10 +30,9 @@ class Dispatcher : public testing::Test {
 
   static Application& application() { return *static_cast<Application*>(qApp); }
 
-  template <class Failure>
-  void clickAndFail(const Failure& failure) {
+  void clickAndFail(const std::function<void()>& failure) {
     QPushButton button(QStringLiteral("Fail"));
-    QObject::connect(&button, &QPushButton::clicked, [&failure] { throw failure; });
+    QObject::connect(&button, &QPushButton::clicked, failure);
     button.show();
     QTest::mouseClick(&button, Qt::LeftButton);
   }
@@ -50,7 +49,7 @@ class Dispatcher : public testing::Test {
 TEST_F(Dispatcher, ReportsTheNumberAndTheDescriptionAndEnds) {
   QString text;
   dialogs.expectAndPress(QStringLiteral("End"), &text);
-  clickAndFail(RunTimeError(ErrorNumber::SubscriptOutOfRange));
+  clickAndFail([] { throw RunTimeError(ErrorNumber::SubscriptOutOfRange); });
   EXPECT_EQ(text, QStringLiteral("Run-time error '9':\n\nSubscript out of range"));
   EXPECT_EQ(endedWith, std::vector<int>{1});
   EXPECT_TRUE(savedTo.empty());
@@ -59,14 +58,14 @@ TEST_F(Dispatcher, ReportsTheNumberAndTheDescriptionAndEnds) {
 TEST_F(Dispatcher, ReportsThePathOfAFile) {
   QString text;
   dialogs.expectAndPress(QStringLiteral("End"), &text);
-  clickAndFail(RunTimeError(ErrorNumber::DiskFull, "/data/ozone"));
+  clickAndFail([] { throw RunTimeError(ErrorNumber::DiskFull, "/data/ozone"); });
   EXPECT_EQ(text, QStringLiteral("Run-time error '61':\n\nDisk full\n/data/ozone"));
 }
 
 TEST_F(Dispatcher, ReportsThatMemoryHasRunOut) {
   QString text;
   dialogs.expectAndPress(QStringLiteral("End"), &text);
-  clickAndFail(std::bad_alloc());
+  clickAndFail([] { throw std::bad_alloc(); });
   EXPECT_EQ(text, QStringLiteral("Run-time error '7':\n\nOut of memory"));
 }
 
@@ -76,14 +75,14 @@ TEST_F(Dispatcher, TheBoxIsCriticalAndHasTheProgramsTitle) {
     EXPECT_EQ(dynamic_cast<QMessageBox&>(dialog).icon(), QMessageBox::Critical);
     QTest::keyClick(&dialog, Qt::Key_Escape);
   });
-  clickAndFail(RunTimeError(ErrorNumber::Overflow));
+  clickAndFail([] { throw RunTimeError(ErrorNumber::Overflow); });
   EXPECT_EQ(endedWith, std::vector<int>{1});
 }
 
 TEST_F(Dispatcher, SavesACopyAndEnds) {
   dialogs.expectAndPress(QStringLiteral("Save a copy..."));
   dialogs.expectAndType(folderFile("copy"));
-  clickAndFail(RunTimeError(ErrorNumber::Overflow));
+  clickAndFail([] { throw RunTimeError(ErrorNumber::Overflow); });
   EXPECT_EQ(savedTo, std::vector<std::string>{folderFile("copy").toStdString()});
   EXPECT_EQ(endedWith, std::vector<int>{1});
 }
@@ -96,7 +95,7 @@ TEST_F(Dispatcher, TheBoxComesBackWhereTheCopyFails) {
   dialogs.expectAndPress(QStringLiteral("OK"), &reason);
   dialogs.expectAndPress(QStringLiteral("Save a copy..."));
   dialogs.expectAndType(folderFile("second"));
-  clickAndFail(RunTimeError(ErrorNumber::Overflow));
+  clickAndFail([] { throw RunTimeError(ErrorNumber::Overflow); });
   EXPECT_TRUE(reason.startsWith(QStringLiteral("Run-time error '70':"))) << reason.toStdString();
   EXPECT_EQ(savedTo.size(), 2U);
   EXPECT_EQ(endedWith, std::vector<int>{1});
@@ -106,7 +105,7 @@ TEST_F(Dispatcher, TheBoxComesBackWhereTheCopyIsCalledOff) {
   dialogs.expectAndPress(QStringLiteral("Save a copy..."));
   dialogs.expectAndCancel();
   dialogs.expectAndPress(QStringLiteral("End"));
-  clickAndFail(RunTimeError(ErrorNumber::Overflow));
+  clickAndFail([] { throw RunTimeError(ErrorNumber::Overflow); });
   EXPECT_TRUE(savedTo.empty());
   EXPECT_EQ(endedWith, std::vector<int>{1});
 }

@@ -12,6 +12,8 @@ struct FieldCase {
   bool accepted;
 };
 
+void PrintTo(const FieldCase& entry, std::ostream* stream) { *stream << entry.field << " \"" << entry.text << '"'; }
+
 // One variable whose block shows 4 values and degree 2.
 class FieldTexts : public MainWindowTest, public testing::WithParamInterface<FieldCase> {
  protected:

@@ -13,6 +13,8 @@ struct NumberCase {
   int lastVar;  // -1: refused
 };
 
+void PrintTo(const NumberCase& entry, std::ostream* stream) { *stream << '"' << entry.text << '"'; }
+
 class NumberTexts : public MainWindowTest, public testing::WithParamInterface<NumberCase> {};
 
 TEST_P(NumberTexts, AreAcceptedOrKeepTheFocus) {
@@ -88,6 +90,8 @@ struct NamesCase {
   const char* text;
   bool accepted;
 };
+
+void PrintTo(const NamesCase& entry, std::ostream* stream) { *stream << '"' << entry.text << '"'; }
 
 class NamesTexts : public MainWindowTest, public testing::WithParamInterface<NamesCase> {};
 

@@ -19,7 +19,7 @@ struct EventLog {
 
   /// What has come since the last call, joined with blanks.
   std::string take() {
-    const std::string text = events.join(QLatin1Char(' ')).toStdString();
+    std::string text = events.join(QLatin1Char(' ')).toStdString();
     events.clear();
     return text;
   }
