@@ -1,6 +1,6 @@
 #!/bin/bash
 # Makes the pictures of the README from the real program with a shipped example, on a display of its own.
-# Usage: packaging/screenshots.sh [FOLDER]. Needs Xvfb, xauth, xdotool and ImageMagick, and a built release.
+# Usage: packaging/screenshots.sh [FOLDER]. Needs Xvfb, xdotool and ImageMagick, and a built release.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 folder=${1:-docs/images}
@@ -9,13 +9,12 @@ cli=$PWD/build/release/bin/tavimor-cli
 
 if [ -z "${TAVIMOR_SCREENSHOTS_DISPLAY:-}" ]; then
   export TAVIMOR_SCREENSHOTS_DISPLAY=1
-  exec xvfb-run --auto-servernum --server-args="-screen 0 1600x1400x24" "$0" "$@"
+  exec packaging/with_display.sh 1600x1400 "packaging/$(basename "$0")" "$@"
 fi
 
 work=$(mktemp -d)
 trap 'kill "${pid:-}" 2>/dev/null || true; rm -rf "$work"' EXIT
 mkdir -p "$folder"
-export QT_QPA_PLATFORM=xcb
 
 # picture NAME PROBLEM: the main window with the problem opened.
 picture() {

@@ -40,7 +40,8 @@ void EvaluationsControls::makeControls() {
   lblApprox->setFont(verdanaFont());
   lblApprox->setToolTip(QStringLiteral("Derivative"));
   lblApprox->setAccessibleName(QStringLiteral("Estimate"));
-  lblApprox->setTextInteractionFlags(Qt::TextSelectableByMouse);
+  lblApprox->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+  lblApprox->setFocusPolicy(Qt::StrongFocus);  // so that the keyboard can copy the estimate
 }
 
 void EvaluationsControls::layOut(QWidget& window) const {

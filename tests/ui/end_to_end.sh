@@ -1,22 +1,22 @@
 #!/bin/bash
-# The real program on a display of its own, driven by keys alone: a typed specification, Save, reopen, Compute.
+# The real program on a display of its own, driven by keys alone: a typed specification, Save, reopen, Compute; a whole
+# problem typed, fitted and evaluated.
 # Usage: end_to_end.sh TAVIMOR TAVIMOR_CLI. Leaves with 77 where there is no such display to be had.
 set -euo pipefail
 tavimor=$1
 cli=$2
 
-for tool in Xvfb xvfb-run xdotool; do
+for tool in Xvfb xdotool xclip; do
   command -v "$tool" >/dev/null || { echo "SKIPPED: $tool is not installed, so the program cannot be driven"; exit 77; }
 done
 if [ -z "${TAVIMOR_END_TO_END_DISPLAY:-}" ]; then
   export TAVIMOR_END_TO_END_DISPLAY=1
-  exec xvfb-run --auto-servernum --server-args="-screen 0 1024x768x24" "$0" "$tavimor" "$cli"
+  exec "$(dirname "$0")/../../packaging/with_display.sh" 1024x768 "$0" "$tavimor" "$cli"
 fi
 
 folder=$(mktemp -d)
 trap 'kill "${pid:-}" 2>/dev/null || true; rm -rf "$folder"' EXIT
 cd "$folder"
-export QT_QPA_PLATFORM=xcb
 
 fail() { echo "FAILED: $*"; exit 1; }
 
@@ -81,4 +81,34 @@ keys Return
 exitCode=0
 wait "$pid" || exitCode=$?
 [ "$exitCode" = 1 ] || fail "the program ended with exit code $exitCode"
+# A whole problem of two variables, typed from the first number to the last: f = 1 + 2 x + 3 y + 4 x y on x = 0, 1, 2
+# and y = 0, 1. Fitted, and evaluated at a point between.
+block() {
+  typed "$1"; keys Tab
+  typed "$2"; keys Tab
+  typed "$3"; keys Return
+  typed 1; keys Tab
+  typed 0
+}
+start
+typed 2; keys Tab
+typed x,y; keys Return
+block 0 2 3
+keys Tab Tab Tab Tab Tab space # Next
+block 0 1 2
+keys Tab Tab Tab Tab Tab Tab space # Edit function
+focus '^Review of function$'
+typed 0,0; keys Return
+focus '^Enter/Edit values of function$'
+for value in 1 4 3 10 5 16; do typed "$value"; keys Return; done
+keys shift+Tab shift+Tab shift+Tab space # Done
+focus '^Tavimor$'
+keys Tab space Tab space # Compute, Evaluations
+focus '^Evaluations$'
+typed 0.5; keys Tab
+typed 0.25; keys Tab space # Compute
+keys Tab ctrl+a ctrl+c
+isEstimated() { [ "$(xclip -o -selection clipboard 2>/dev/null)" = 3.25 ]; }
+waitFor isEstimated
+kill "$pid"
 echo "passed"
