@@ -21,6 +21,7 @@ frmTavimor::frmTavimor(Dimension& model)
 
 void frmTavimor::Form_Load() {
   model_.WorkDir = QDir::currentPath().toStdString();
+  doubleValuesColumn();
   setUpScript();
   mnuSave->setEnabled(false);
   mnuSaveAs->setEnabled(false);

@@ -13,6 +13,7 @@
 namespace tavimor {
 
 class frmEvaluations;
+class frmVars;
 
 /// The main window, the owner of the run: the user types the problem into it step by step, fits it and reads the
 /// results. All data live in the model, which the other windows share.
@@ -21,7 +22,10 @@ class frmTavimor : public Form, private MainControls {
 
  public:
   explicit frmTavimor(Dimension& model);
+  ~frmTavimor() override;
 
+  /// Fills the grid of the values window with the values of variable v, and puts its name into the caption.
+  void PopulateGridVars(Long v);
   void GetVarX(Long v, Long i);
   void SetVarX(Long v, Long i);
 
@@ -42,6 +46,8 @@ class frmTavimor : public Form, private MainControls {
 
   ScriptHost ScriptControl1;
   Long ierr = 0;  // the last run-time error that a function of the script object met
+  /// Shows the number of values of variable v, which has changed, and drops the results: they belong to another grid.
+  void numberOfValuesChanged(Long v);
 
  private:
   void Form_Load();
@@ -88,6 +94,8 @@ class frmTavimor : public Form, private MainControls {
   void cmdAddVars_Click(Long Index);
   void cmdEditFun_Click();
   void EditVarValues(Long v);
+  void doubleValuesColumn();
+  frmVars& valuesWindow();
   void giveDefaultValues(Long v);
   std::optional<PerVariable<Long>> askForStartingSet();
 
@@ -99,6 +107,7 @@ class frmTavimor : public Form, private MainControls {
   Dimension& model_;
   Class1 sh_{ierr};
   QPointer<frmEvaluations> evaluations_;
+  QPointer<frmVars> valuesWindow_;
   FileDialog cdbFile;
   std::string unreadableFile_;  // a file of the user's that could not be opened: never replaced unasked
 };

@@ -2,7 +2,6 @@
 #include "model/add_values.h"
 #include "model/grid_walk.h"
 #include "model/var_values.h"
-#include "runtime/number_text.h"
 #include "runtime/val.h"
 #include "ui/controls/input_box.h"
 #include "ui/frmFun.h"
@@ -29,7 +28,7 @@ void frmTavimor::cmdAddVars_Click(Long Index) {
   if (model_.AddCount[Index] == 0) return;
   giveDefaultValues(Index);
   addValues(model_, Index);
-  blocks.at(Index).txtPoints->setText(QString::fromStdString(numberText(model_.LastPoint[Index] + 1)));
+  numberOfValuesChanged(Index);
   EditVarValues(Index);
 }
 
@@ -37,8 +36,6 @@ void frmTavimor::giveDefaultValues(Long v) {
   if (!model_.ValuesGiven[v]) blocks.at(v).txtPoints->setEnabled(false);
   tavimor::giveDefaultValues(model_, v);
 }
-
-void frmTavimor::EditVarValues(Long v) { model_.V = v; }
 
 void frmTavimor::cmdEditFun_Click() {
   const std::optional<PerVariable<Long>> start = askForStartingSet();
