@@ -48,7 +48,7 @@ void frmTavimor::cmdEditFun_Click() {
   }
   model_.StartIdx = *start;
   disable();
-  (new frmFun(model_, *this))->show();
+  (new frmFun(model_, *this))->showAbove(*this);
 }
 
 std::optional<PerVariable<Long>> frmTavimor::askForStartingSet() {

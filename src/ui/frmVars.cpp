@@ -39,9 +39,7 @@ void frmVars::open() {
   MSFlexGridVars->setRow(0);
   setEntryText(MSFlexGridVars->Text());
   MSFlexGridVars->setFocus();
-  show();
-  raise();
-  activateWindow();
+  showAbove(main_);
 }
 
 void frmVars::MSFlexGridVars_Click() { placeEntry(); }

@@ -54,7 +54,8 @@ FlexGrid::FlexGrid(const QString& name, QWidget* parent) : QTableWidget(parent) 
   horizontalHeader()->hide();
   verticalHeader()->hide();
   verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-  connect(horizontalHeader(), &QHeaderView::sectionResized, this, &FlexGrid::CellsMoved);
+  // Queued: the signal comes before the columns have their new places.
+  connect(horizontalHeader(), &QHeaderView::sectionResized, this, &FlexGrid::CellsMoved, Qt::QueuedConnection);
   connect(this, &QTableWidget::currentCellChanged, this, &FlexGrid::RowColChange);
 }
 

@@ -1,6 +1,7 @@
 #include "ui/controls/form.h"
 
 #include <QCloseEvent>
+#include <QWindow>
 
 namespace tavimor {
 
@@ -37,6 +38,14 @@ void Form::enable() {
   setEnabled(true);
   activateWindow();
   if (focusBeforeDisabled_ != nullptr) focusBeforeDisabled_->setFocus(Qt::ActiveWindowFocusReason);
+}
+
+void Form::showAbove(Form& other) {
+  create();
+  windowHandle()->setTransientParent(other.windowHandle());
+  show();
+  raise();
+  activateWindow();
 }
 
 const QVector<Form*>& Form::openForms() { return forms(); }

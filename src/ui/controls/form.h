@@ -24,6 +24,9 @@ class Form : public QWidget {
   void disable();
   void enable();
 
+  /// Shows the form and keeps it above another one, so that it is never lost behind a form that it has disabled.
+  void showAbove(Form& other);
+
   /// The forms that are loaded, shown or hidden, in the order in which they were made.
   static const QVector<Form*>& openForms();
 

@@ -2,8 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QLineEdit>
 #include <QTest>
+#include <QWindow>
 
 namespace tavimor {
 namespace {
@@ -78,6 +80,25 @@ TEST_F(Forms, ADisabledFormGivesItsFocusBackWhenEnabled) {
   EXPECT_FALSE(form->edit.hasFocus());
   form->enable();
   EXPECT_TRUE(form->edit.hasFocus());
+}
+
+TEST_F(Forms, AFormIsShownAboveAnotherOneTimeAndAgain) {
+  CountingForm* form = make();
+  CountingForm below(QStringLiteral("frmBelow"), unloads);
+  const auto isActive = [](const QWidget* window) {
+    return QTest::qWaitFor([&] { return QApplication::activeWindow() == window; });
+  };
+  below.show();
+  EXPECT_TRUE(isActive(&below));
+  for (int n = 0; n < 2; ++n) {
+    form->showAbove(below);
+    EXPECT_TRUE(isActive(form));
+    EXPECT_EQ(form->windowHandle()->transientParent(), below.windowHandle());
+    form->hide();
+    below.enable();
+    EXPECT_TRUE(isActive(&below));
+  }
+  form->unload();
 }
 
 }  // namespace

@@ -163,6 +163,7 @@ TEST_F(BlockEntry, LimitsAndCentreLeaveTheFitAlone) {
 
 TEST_F(BlockEntry, ABlockThatNobodyVisitedStandsInNoOnesWay) {
   click("cmdEditVars(0)");
+  clickDone();
   click("cmdCompute");
   EXPECT_TRUE(model.FitDone);
   EXPECT_EQ(model.NumGridPoints, 8);

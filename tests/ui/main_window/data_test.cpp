@@ -35,7 +35,7 @@ TEST_F(EditValues, KeepsValuesThatWereTyped) {
   click("cmdEditVars(0)");
   model.VarX = 1.25;
   window->SetVarX(0, 1);
-  if (!window->isEnabled()) window->enable();
+  clickDone();
   click("cmdEditVars(0)");
   EXPECT_EQ(model.X0, (std::vector<double>{0, 1.25, 2, 3}));
 }

@@ -94,7 +94,7 @@ TEST_F(Save, AfterAnAdditionGoesToTheWorkFile) {
   const QByteArray before = contentOf("problem");
   dialogs.expectAndType("1");
   click("cmdAddVars(1)");
-  activate();
+  clickDone();
   saveByKey();
   EXPECT_EQ(contentOf("problem"), before);
   EXPECT_TRUE(contentOf("FUNCTION").startsWith(" 1 "));

@@ -160,6 +160,7 @@ TEST_F(PublicOperations, AVariableBeyondTheFourthLeavesVarX) {
 TEST_F(PublicOperations, EvaluateGivesTheFitsValue) {
   declare("1", "x");
   click("cmdEditVars(0)");
+  clickDone();
   model.F(1, 0, 0, 0) = 3;
   click("cmdCompute");
   model.t[0] = 1 - model.Centre[0];

@@ -41,6 +41,18 @@ void MainWindowTest::press(Qt::Key key, Qt::KeyboardModifiers modifiers) {
 
 void MainWindowTest::click(const QString& name) { QTest::mouseClick(&button(name), Qt::LeftButton); }
 
+void MainWindowTest::clickDone() {
+  for (Form* form : Form::openForms())
+    if (form != window && form->isVisible())
+      QTest::mouseClick(form->findChild<QPushButton*>(QStringLiteral("cmdExit")), Qt::LeftButton);
+  ASSERT_TRUE(waitForKeyboard(*window));
+}
+
+// A window that stays above another one counts as active as soon as that one is.
+bool MainWindowTest::waitForKeyboard(const QWidget& active) {
+  return QTest::qWaitFor([&] { return QApplication::activeWindow() == &active && QApplication::focusWidget(); });
+}
+
 void MainWindowTest::enter(const QString& field, const QString& text) {
   QTest::mouseClick(&box(field), Qt::LeftButton);
   EXPECT_EQ(focusName(), field.toStdString());

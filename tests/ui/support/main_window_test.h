@@ -41,6 +41,12 @@ class MainWindowTest : public testing::Test {
   void click(const QString& button);
   void enter(const QString& field, const QString& text);
 
+  /// Presses Done in the window that has been opened over the main window.
+  void clickDone();
+
+  /// Until keys go to this window.
+  static bool waitForKeyboard(const QWidget& active);
+
   /// Number and names, each left by Tab.
   void declare(const QString& number, const QString& names);
 
