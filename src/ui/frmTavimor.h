@@ -44,10 +44,11 @@ class frmTavimor : public Form, private MainControls {
   /// Opens a problem as the Open command does once a file is chosen.
   void openFile(const std::string& path);
 
-  ScriptHost ScriptControl1;
-  Long ierr = 0;  // the last run-time error that a function of the script object met
   /// Shows the number of values of variable v, which has changed, and drops the results: they belong to another grid.
   void numberOfValuesChanged(Long v);
+
+  ScriptHost ScriptControl1;
+  Long ierr = 0;  // the last run-time error that a function of the script object met
 
  private:
   void Form_Load();

@@ -33,7 +33,7 @@ class MainWindowTest : public testing::Test {
   std::string listing();
 
   std::string textOf(const QString& name) { return box(name).text().toStdString(); }
-  std::string focusName();
+  static std::string focusName();
 
   /// Keys into the control that has the focus; a click on a control; a text into a field that is clicked first.
   void type(const QString& text);

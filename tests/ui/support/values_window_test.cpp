@@ -47,8 +47,8 @@ void ValuesWindowTest::clickCell(int row, int col) {
 }
 
 std::vector<std::string> ValuesWindowTest::column() {
-  std::vector<std::string> texts;
-  for (int row = 0; row < grid().Rows(); ++row) texts.push_back(cell(row));
+  std::vector<std::string> texts(grid().Rows());
+  for (int row = 0; row < grid().Rows(); ++row) texts[row] = cell(row);
   return texts;
 }
 

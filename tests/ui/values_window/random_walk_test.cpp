@@ -118,6 +118,20 @@ class RandomWalk : public ValuesWindowTest, public testing::WithParamInterface<u
     add(v, QString::number(count));
   }
 
+  void typeTheFunction() {
+    const Long v = model.V;
+    const Expected::Point point{upTo(expected.last(0)), upTo(expected.last(1))};
+    close();
+    dialogs.expectAndType(QStringLiteral("%1,%2").arg(point[0]).arg(point[1]));
+    click("cmdEditFun");
+    ASSERT_TRUE(QTest::qWaitFor([] { return focusName() == "txtFun"; }));
+    const QString number = anyNumber();
+    ValuesWindowTest::type(number);
+    expected.f[point] = Val(number.toStdString());
+    clickDone();
+    edit(v);
+  }
+
   void act() {
     const Long what = upTo(99);
     if (what < 25)
@@ -128,8 +142,10 @@ class RandomWalk : public ValuesWindowTest, public testing::WithParamInterface<u
       press();
     else if (what < 86)
       remove();
-    else if (what < 95)
+    else if (what < 92)
       editAnother();
+    else if (what < 96)
+      typeTheFunction();
     else
       addSome();
   }
@@ -147,7 +163,7 @@ class RandomWalk : public ValuesWindowTest, public testing::WithParamInterface<u
 };
 
 TEST_P(RandomWalk, GridModelAndMainWindowAgreeAtEachStep) {
-  constexpr int kSteps = 300;
+  constexpr int kSteps = 1000;
   for (int step = 0; step < kSteps && !HasFailure(); ++step) {
     SCOPED_TRACE("step " + std::to_string(step));
     act();
