@@ -10,9 +10,8 @@
 #include <vector>
 
 #include "engine/right_hand_side.h"
-#include "model/var_values.h"
 #include "peak.h"
-#include "plain_fit.h"
+#include "plain_problem.h"
 #include "problem_sizes.h"
 
 namespace {
@@ -33,19 +32,6 @@ double median(std::vector<double> values) {
   return values[values.size() / 2];
 }
 
-plain::Problem plainProblem(const Dimension& model) {
-  plain::Problem problem;
-  problem.lastVar = model.LastVar;
-  for (Long k = 0; k < kMaxVariables; ++k) {
-    problem.centre[k] = model.Centre[k];
-    problem.degree[k] = model.Degree[k];
-    problem.lastPoint[k] = model.LastPoint[k];
-    problem.x[k] = valueList(model, k);
-  }
-  problem.f.assign(model.F.data(), model.F.data() + model.F.size());
-  return problem;
-}
-
 const char* nameOf(InstructionSet set) {
   switch (set) {
     case InstructionSet::Plain: return "plain loops";
@@ -58,7 +44,7 @@ const char* nameOf(InstructionSet set) {
 
 void compareRightHandSides(const ProblemSize& size, double peak) {
   Dimension model = makeProblem(size);
-  plain::Problem problem = plainProblem(model);
+  plain::Problem problem = plain::problemOf(model);
   ComputeOptions options;
   options.threads = 1;
   std::vector<double> ratios, shares;

@@ -16,6 +16,8 @@ work=$(mktemp -d)
 trap 'kill "${pid:-}" 2>/dev/null || true; rm -rf "$work"' EXIT
 mkdir -p "$folder"
 
+source packaging/keys.sh
+
 start() {
   "$tavimor" "$@" &
   pid=$!
@@ -27,10 +29,6 @@ stop() {
   wait "$pid" 2>/dev/null || true
 }
 
-focus() { xdotool search --sync --onlyvisible --name "$1" windowfocus --sync; }
-keys() { xdotool key --delay 30 "$@"; }
-typed() { xdotool type --delay 15 -- "$1"; }
-
 # picture NAME TITLE: the window with this title.
 picture() {
   focus "$2"
@@ -38,42 +36,18 @@ picture() {
   import -window "$(xdotool search --onlyvisible --name "$2" | head -n 1)" -strip "$folder/$1.png"
 }
 
-# block LOWER UPPER COUNT: a variable's specifications of degree 1 about 0.
-block() {
-  typed "$1"; keys Tab
-  typed "$2"; keys Tab
-  typed "$3"; keys Return
-  typed 1; keys Tab
-  typed 0
-}
-
 "$cli" fit examples/sound-speed --output "$work/sound-speed" >/dev/null
 start "$work/sound-speed"
 picture main-window '^Tavimor$'
 stop
 
-# The tour of the README: f = 1 + 2 x + 3 y + 4 x y on x = 0, 1, 2 and y = 0, 1.
+# The tour of the README.
+folder=$PWD/$folder
 cd "$work"
-folder=$OLDPWD/$folder
 start
-typed 2; keys Tab
-typed x,y; keys Return
-block 0 2 3
-keys Tab Tab Tab Tab Tab space # Next
-block 0 1 2
-keys Tab Tab Tab Tab Tab Tab space # Edit function
-focus '^Review of function$'
-typed 0,0; keys Return
-focus '^Enter/Edit values of function$'
-for value in 1 4 3 10 5; do typed "$value"; keys Return; done
-typed 16
+typeProblem
 picture function-window '^Enter/Edit values of function$'
-keys shift+Tab shift+Tab shift+Tab space # Done
-focus '^Tavimor$'
-keys Tab space Tab space # Compute, Evaluations
-focus '^Evaluations$'
-typed 0.5; keys Tab
-typed 0.25; keys Tab space # Compute
+fitAndEvaluate
 picture evaluations-window '^Evaluations$'
 focus '^Tavimor$'
 keys shift+Tab shift+Tab shift+Tab shift+Tab shift+Tab space # Edit values

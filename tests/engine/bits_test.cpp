@@ -7,7 +7,7 @@
 
 #include "engine/Compute.h"
 #include "model/var_values.h"
-#include "plain_fit.h"
+#include "plain_problem.h"
 
 // Every sum is one chain in a stated order, so the fit must give the bits of the plain loops on each instruction set
 // that this processor has and for any number of threads.
@@ -62,15 +62,7 @@ class RandomProblems {
 };
 
 plain::Problem plainFit(const Dimension& model) {
-  plain::Problem problem;
-  problem.lastVar = model.LastVar;
-  for (Long k = 0; k < kMaxVariables; ++k) {
-    problem.centre[k] = model.Centre[k];
-    problem.degree[k] = model.Degree[k];
-    problem.lastPoint[k] = model.LastPoint[k];
-    problem.x[k] = valueList(model, k);
-  }
-  problem.f.assign(model.F.data(), model.F.data() + model.F.size());
+  plain::Problem problem = plain::problemOf(model);
   plain::fit(problem);
   return problem;
 }

@@ -14,23 +14,18 @@ if [ -z "${TAVIMOR_END_TO_END_DISPLAY:-}" ]; then
   exec "$(dirname "$0")/../../packaging/with_display.sh" 1024x768 "$0" "$tavimor" "$cli"
 fi
 
+source "$(dirname "$0")/../../packaging/keys.sh"
 folder=$(mktemp -d)
 trap 'kill "${pid:-}" 2>/dev/null || true; rm -rf "$folder"' EXIT
 cd "$folder"
 
 fail() { echo "FAILED: $*"; exit 1; }
 
-# Without a window manager it is the test that gives a new window the keyboard.
-focus() { xdotool search --sync --onlyvisible --name "$1" windowfocus --sync; }
-
 start() {
   "$tavimor" "$@" &
   pid=$!
   focus '^Tavimor$'
 }
-
-keys() { xdotool key --delay 30 "$@"; }
-typed() { xdotool type --delay 15 -- "$1"; }
 
 waitFor() {
   for _ in $(seq 100); do "$@" && return; sleep 0.1; done
@@ -81,32 +76,10 @@ keys Return
 exitCode=0
 wait "$pid" || exitCode=$?
 [ "$exitCode" = 1 ] || fail "the program ended with exit code $exitCode"
-# A whole problem of two variables, typed from the first number to the last: f = 1 + 2 x + 3 y + 4 x y on x = 0, 1, 2
-# and y = 0, 1. Fitted, and evaluated at a point between.
-block() {
-  typed "$1"; keys Tab
-  typed "$2"; keys Tab
-  typed "$3"; keys Return
-  typed 1; keys Tab
-  typed 0
-}
+# A whole problem typed from the first number to the last, fitted and evaluated at a point.
 start
-typed 2; keys Tab
-typed x,y; keys Return
-block 0 2 3
-keys Tab Tab Tab Tab Tab space # Next
-block 0 1 2
-keys Tab Tab Tab Tab Tab Tab space # Edit function
-focus '^Review of function$'
-typed 0,0; keys Return
-focus '^Enter/Edit values of function$'
-for value in 1 4 3 10 5 16; do typed "$value"; keys Return; done
-keys shift+Tab shift+Tab shift+Tab space # Done
-focus '^Tavimor$'
-keys Tab space Tab space # Compute, Evaluations
-focus '^Evaluations$'
-typed 0.5; keys Tab
-typed 0.25; keys Tab space # Compute
+typeProblem
+fitAndEvaluate
 keys Tab ctrl+a ctrl+c
 isEstimated() { [ "$(xclip -o -selection clipboard 2>/dev/null)" = 3.25 ]; }
 waitFor isEstimated
