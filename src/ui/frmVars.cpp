@@ -37,7 +37,7 @@ void frmVars::Form_Load() { txtDataEntry->hide(); }
 
 void frmVars::open() {
   MSFlexGridVars->setRow(0);
-  setEntryText(MSFlexGridVars->Text());
+  txtDataEntry->setText(MSFlexGridVars->Text());
   MSFlexGridVars->setFocus();
   showAbove(main_);
 }
@@ -46,7 +46,7 @@ void frmVars::MSFlexGridVars_Click() { placeEntry(); }
 
 void frmVars::MSFlexGridVars_KeyPress(QChar character) {
   txtDataEntry->show();
-  if (isOfANumber(character)) setEntryText(character);
+  if (isOfANumber(character)) txtDataEntry->setText(character);
   txtDataEntry->setToolTip(
       QStringLiteral("A(%1,%2)=%3").arg(MSFlexGridVars->Row()).arg(MSFlexGridVars->Col()).arg(MSFlexGridVars->Text()));
   showEntry();
@@ -57,7 +57,7 @@ void frmVars::MSFlexGridVars_KeyPress(QChar character) {
 // The keyboard moves about the grid also while the editor is visible: it goes along, and stays over the current cell.
 void frmVars::MSFlexGridVars_RowColChange() {
   moveEntry();
-  setEntryText(MSFlexGridVars->Text());
+  txtDataEntry->setText(MSFlexGridVars->Text());
 }
 
 void frmVars::txtDataEntry_KeyPress(QChar& character) {
@@ -97,7 +97,7 @@ void frmVars::cmdDelete_Click() {
   const Long r = model_.I = MSFlexGridVars->Row();
   main_.GetVarX(v, last);
   const QString lastValue = QString::fromStdString(numberText(model_.VarX));
-  setEntryText(lastValue);
+  txtDataEntry->setText(lastValue);
   MSFlexGridVars->setText(lastValue);
   MSFlexGridVars->setRows(last);
   if (r == last) txtDataEntry->hide();
@@ -116,14 +116,6 @@ void frmVars::finish() {
   main_.enable();
 }
 
-// A text that is there already is stored too: the current cell may hold another one.
-void frmVars::setEntryText(const QString& text) {
-  if (txtDataEntry->text() == text)
-    txtDataEntry_Change();
-  else
-    txtDataEntry->setText(text);
-}
-
 void frmVars::moveEntry() {
   txtDataEntry->setGeometry(MSFlexGridVars->visibleCell().translated(MSFlexGridVars->pos()));
 }
@@ -136,7 +128,7 @@ void frmVars::showEntry() {
 }
 
 void frmVars::placeEntry() {
-  setEntryText(MSFlexGridVars->Text());
+  txtDataEntry->setText(MSFlexGridVars->Text());
   showEntry();
 }
 

@@ -37,7 +37,6 @@ class frmVars : public Form, public VarsControls {
   void cmdDelete_Click();
   void cmdExit_Click();
 
-  void setEntryText(const QString& text);
   void moveEntry();
   void showEntry();
   void placeEntry();
