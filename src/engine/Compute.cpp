@@ -1,6 +1,9 @@
 #include "engine/Compute.h"
 
+#include <future>
 #include <new>
+#include <utility>
+#include <vector>
 
 #include "engine/capture_specs.h"
 #include "engine/fit_on_grid.h"
@@ -21,14 +24,25 @@ Long axisWithoutRoom(const Dimension& model) {
   return -1;
 }
 
-Solution solveVariable(const Dimension& model, Long k, Table4& coef, const ComputeOptions& options) {
-  Gram gram = normalMatrix(model, k, options);
-  return solveAlong(k, gram, coef);
+// The normal matrices need nothing of the right-hand side. Those of long axes are made beside it, in threads of their
+// own, the others when they are asked for.
+std::vector<std::future<Gram>> normalMatrices(const Dimension& model, const ComputeOptions& options) {
+  constexpr double workWorthAThread = 1e7;
+  std::vector<std::future<Gram>> matrices;
+  for (Long k = 0; k <= model.LastVar; ++k) {
+    const double terms = model.Degree[k] + 1.0;
+    const bool pays = options.threads != 1 && model.LastPoint[k] * terms * terms > workWorthAThread;
+    matrices.push_back(std::async(pays ? std::launch::async : std::launch::deferred,
+                                  [&model, k, &options] { return normalMatrix(model, k, options); }));
+  }
+  return matrices;
 }
 
-Solution solveAll(Dimension& model, const ComputeOptions& options) {
-  for (Long k = 0; k <= model.LastVar; ++k)
-    if (solveVariable(model, k, model.Coef, options) == Solution::Singular) return Solution::Singular;
+Solution solveAll(Dimension& model, std::vector<std::future<Gram>> matrices) {
+  for (Long k = 0; k <= model.LastVar; ++k) {
+    Gram gram = matrices[k].get();
+    if (solveAlong(k, gram, model.Coef) == Solution::Singular) return Solution::Singular;
+  }
   return Solution::Found;
 }
 
@@ -39,7 +53,8 @@ Solution solveForSingularityOnly(const Dimension& model, const ComputeOptions& o
     line[k] = model.Degree[k];
     Table4 coef;
     coef.redim(line);
-    if (solveVariable(model, k, coef, options) == Solution::Singular) return Solution::Singular;
+    Gram gram = normalMatrix(model, k, options);
+    if (solveAlong(k, gram, coef) == Solution::Singular) return Solution::Singular;
   }
   return Solution::Found;
 }
@@ -51,8 +66,9 @@ Solution solve(Dimension& model, const ComputeOptions& options) {
     if (solveForSingularityOnly(model, options) == Solution::Singular) return Solution::Singular;
     throw RunTimeError(ErrorNumber::SubscriptOutOfRange);
   }
+  std::vector<std::future<Gram>> matrices = normalMatrices(model, options);
   accumulateRightHandSide(model, options);
-  return solveAll(model, options);
+  return solveAll(model, std::move(matrices));
 }
 
 void fit(Dimension& model, const LineSink& addItem, const ComputeOptions& options) {

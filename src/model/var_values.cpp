@@ -3,6 +3,7 @@
 #include <iterator>
 #include <new>
 
+#include "platform/memory.h"
 #include "runtime/run_time_error.h"
 
 namespace tavimor {
@@ -60,8 +61,12 @@ void ResizeVarValues(Dimension& model, Long v) {
   if (!isVariable(v)) return;
   const Long last = model.LastPoint[v];
   if (last < 0) throw RunTimeError(ErrorNumber::SubscriptOutOfRange);
+  const std::size_t count = static_cast<std::size_t>(last) + 1;
+  std::vector<double>& values = valueList(model, v);
   try {
-    valueList(model, v).resize(static_cast<std::size_t>(last) + 1);
+    values.reserve(count);
+    preferLargePages(values.data(), count * sizeof(double));  // before they are touched
+    values.resize(count);
   } catch (const std::bad_alloc&) {
     throw RunTimeError(ErrorNumber::OutOfMemory);
   }
