@@ -8,8 +8,8 @@
 namespace tavimor {
 
 /// The normal matrix of one variable: degree + 1 rows and columns.
-/// Errors: OutOfMemory above kLargestDegree. From there on the sums of powers are 0 or infinite for any deviation that is
-/// not close to 1, and a few bytes of a file could ask for hours of elimination.
+/// Errors: OutOfMemory above kLargestDegree. From there on the sums of powers are 0 or infinite for any deviation that
+/// is not close to 1, and a few bytes of a file could ask for hours of elimination.
 class Gram {
  public:
   static constexpr Long kLargestDegree = 1023;

@@ -26,10 +26,11 @@ const LaneSums* laneSums(InstructionSet set) {
 
 bool hasInstructionSet(InstructionSet set) {
   switch (set) {
-    case InstructionSet::Plain: return true;
+    case InstructionSet::Plain:
 #ifdef TAVIMOR_HAS_LANES
-    case InstructionSet::Baseline: return true;
+    case InstructionSet::Baseline:
 #endif
+      return true;
 #ifdef TAVIMOR_HAS_X86_LANES
     case InstructionSet::Avx2: return __builtin_cpu_supports("avx2");
     case InstructionSet::Avx512: return __builtin_cpu_supports("avx512f");

@@ -11,10 +11,11 @@ namespace tavimor {
 #ifdef __linux__
 
 void preferLargePages(void* memory, std::size_t bytes) {
-  constexpr std::uintptr_t page = std::uintptr_t{2} << 20;
-  const auto first = (reinterpret_cast<std::uintptr_t>(memory) + page - 1) / page * page;
-  const auto end = (reinterpret_cast<std::uintptr_t>(memory) + bytes) / page * page;
-  if (first < end) madvise(reinterpret_cast<void*>(first), end - first, MADV_HUGEPAGE);  // advice: may be refused
+  constexpr std::size_t page = std::size_t{2} << 20;
+  const std::size_t before = (page - reinterpret_cast<std::uintptr_t>(memory) % page) % page;
+  if (before + page > bytes) return;
+  const std::size_t whole = (bytes - before) / page * page;
+  madvise(static_cast<char*>(memory) + before, whole, MADV_HUGEPAGE);  // advice: may be refused
 }
 
 #else
