@@ -5,9 +5,10 @@ set -euo pipefail
 size=$1
 shift
 
-# The server picks a free number and tells it when it is ready, so that two of these never share a display.
+# The server picks a free number and tells it when it is ready, so that two of these never share a display. It stays as it
+# is when the last program on it ends: another one may be about to start.
 number=$(mktemp)
-Xvfb -displayfd 3 -screen 0 "${size}x24" -nolisten tcp 3>"$number" 2>/dev/null &
+Xvfb -displayfd 3 -screen 0 "${size}x24" -nolisten tcp -noreset 3>"$number" 2>/dev/null &
 server=$!
 trap 'kill "$server" 2>/dev/null || true; rm -f "$number"' EXIT
 for _ in $(seq 100); do
