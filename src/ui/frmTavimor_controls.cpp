@@ -1,21 +1,14 @@
 #include "ui/frmTavimor_controls.h"
 
 #include "ui/controls/fonts.h"
+#include "ui/controls/make_control.h"
 
 namespace tavimor {
 
 namespace {
 
-template <class Control>
-Control* make(const char* name, const char* caption) {
-  auto* control = new Control(QLatin1String(caption));
-  control->setObjectName(QLatin1String(name));
-  control->setFont(sansSerifFont());
-  return control;
-}
-
-QPushButton* makeButton(const char* name, const char* caption) {
-  auto* button = make<QPushButton>(name, caption);
+QPushButton* makePlainButton(const char* name, const char* caption) {
+  auto* button = makeControl<QPushButton>(QLatin1String(name), caption);
   button->setFocusPolicy(Qt::StrongFocus);
   return button;
 }
@@ -32,25 +25,25 @@ TextBox* makeBox(const char* name, const char* accessibleName, QLabel* label) {
 }  // namespace
 
 void MainControls::makeControls() {
-  lblOrder = make<QLabel>("lblOrder", "Enter # of independent variables:");
+  lblOrder = makeControl<QLabel>(QStringLiteral("lblOrder"), "Enter # of independent variables:");
   txtOrder = makeBox("txtOrder", "Number of independent variables", lblOrder);
-  lblVarNam = make<QLabel>("lblVarNam", "");
+  lblVarNam = makeControl<QLabel>(QStringLiteral("lblVarNam"), "");
   txtVarNams = makeBox("txtVarNams", "Names of the independent variables, separated by commas", lblVarNam);
 
-  fraSpecs = make<QGroupBox>("fraSpecs", "Specs for each variable");
-  lblVariable = make<QLabel>("lblVariable", "Variable:");
-  lblLL = make<QLabel>("lblLL", "Lower limit:");
-  lblUL = make<QLabel>("lblUL", "Upper limit:");
-  lblPoints = make<QLabel>("lblPoints", "# of values:");
-  lblTerms = make<QLabel>("lblTerms", "Desired degree:");
-  lblExpansion = make<QLabel>("lblExpansion", "Center of expansion:");
-  cmdPrevVar = makeButton("cmdPrevVar", "Previous");
-  cmdNextVar = makeButton("cmdNextVar", "Next");
+  fraSpecs = makeControl<QGroupBox>(QStringLiteral("fraSpecs"), "Specs for each variable");
+  lblVariable = makeControl<QLabel>(QStringLiteral("lblVariable"), "Variable:");
+  lblLL = makeControl<QLabel>(QStringLiteral("lblLL"), "Lower limit:");
+  lblUL = makeControl<QLabel>(QStringLiteral("lblUL"), "Upper limit:");
+  lblPoints = makeControl<QLabel>(QStringLiteral("lblPoints"), "# of values:");
+  lblTerms = makeControl<QLabel>(QStringLiteral("lblTerms"), "Desired degree:");
+  lblExpansion = makeControl<QLabel>(QStringLiteral("lblExpansion"), "Center of expansion:");
+  cmdPrevVar = makePlainButton("cmdPrevVar", "Previous");
+  cmdNextVar = makePlainButton("cmdNextVar", "Next");
 
-  cmdEditFun = makeButton("cmdEditFun", "Edit function");
-  cmdCompute = makeButton("cmdCompute", "Compute");
+  cmdEditFun = makePlainButton("cmdEditFun", "Edit function");
+  cmdCompute = makePlainButton("cmdCompute", "Compute");
   cmdCompute->setToolTip(QStringLiteral("Compute coefficients"));
-  cmdEvaluations = makeButton("cmdEvaluations", "Evaluations");
+  cmdEvaluations = makePlainButton("cmdEvaluations", "Evaluations");
   lstCoeff = new ListBox(QStringLiteral("lstCoeff"));
   lstCoeff->setToolTip(QStringLiteral("Coefficients"));
   lstCoeff->setAccessibleName(QStringLiteral("Coefficients"));

@@ -3,7 +3,7 @@
 #include <initializer_list>
 
 #include "ui/controls/control_array.h"
-#include "ui/controls/fonts.h"
+#include "ui/controls/make_control.h"
 
 namespace tavimor {
 
@@ -17,14 +17,6 @@ TextBox* makeField(const char* array, int k, const char* accessibleName, const c
   return box;
 }
 
-template <class Control>
-Control* make(const char* array, int k, const char* caption) {
-  auto* control = new Control(QLatin1String(caption));
-  control->setObjectName(elementName(array, k));
-  control->setFont(sansSerifFont());
-  return control;
-}
-
 QList<QWidget*> controlsOf(const SpecBlock& block) {
   return {block.txtUL,        block.txtLL,     block.lblVar,      block.txtTerms,  block.txtPoints,
           block.txtExpansion, block.chkSpaced, block.cmdEditVars, block.cmdAddVars};
@@ -34,7 +26,7 @@ QList<QWidget*> controlsOf(const SpecBlock& block) {
 
 SpecBlock makeSpecBlock(int k) {
   SpecBlock block{};
-  block.lblVar = make<QLabel>("lblVar", k, "");
+  block.lblVar = makeControl<QLabel>(elementName("lblVar", k), "");
   block.lblVar->setTextFormat(Qt::PlainText);
   block.txtLL = makeField("txtLL", k, "Lower limit", "0");
   block.txtUL = makeField("txtUL", k, "Upper limit", "1");
@@ -42,10 +34,10 @@ SpecBlock makeSpecBlock(int k) {
   block.txtTerms = makeField("txtTerms", k, "Desired degree", "1");
   block.txtExpansion = makeField("txtExpansion", k, "Center of expansion", "*");
   block.txtExpansion->setToolTip(QStringLiteral("Enter \"*\" for center of interval"));
-  block.chkSpaced = make<QCheckBox>("chkSpaced", k, "Equally spaced");
+  block.chkSpaced = makeControl<QCheckBox>(elementName("chkSpaced", k), "Equally spaced");
   block.chkSpaced->setChecked(true);
-  block.cmdAddVars = make<QPushButton>("cmdAddVars", k, "Add values");
-  block.cmdEditVars = make<QPushButton>("cmdEditVars", k, "Edit values");
+  block.cmdAddVars = makeControl<QPushButton>(elementName("cmdAddVars", k), "Add values");
+  block.cmdEditVars = makeControl<QPushButton>(elementName("cmdEditVars", k), "Edit values");
   for (QAbstractButton* button :
        std::initializer_list<QAbstractButton*>{block.chkSpaced, block.cmdAddVars, block.cmdEditVars})
     button->setFocusPolicy(Qt::StrongFocus);
