@@ -6,7 +6,7 @@
 #include "model/Dimension.h"
 #include "model/spec_fields.h"
 #include "script/ScriptHost.h"
-#include "ui/controls/file_dialog.h"
+#include "ui/controls/common_dialog.h"
 #include "ui/controls/form.h"
 #include "ui/frmTavimor_controls.h"
 
@@ -109,7 +109,7 @@ class frmTavimor : public Form, private MainControls {
   Class1 sh_{ierr};
   QPointer<frmEvaluations> evaluations_;
   QPointer<frmVars> valuesWindow_;
-  FileDialog cdbFile;
+  CommonDialog cdbFile;
   std::string unreadableFile_;  // a file of the user's that could not be opened: never replaced unasked
 };
 

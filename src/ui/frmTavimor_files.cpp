@@ -104,7 +104,7 @@ void frmTavimor::mnuSaveAs_Click() {
 // A dialog that is called off leaves the name of the dialog before it, and the problem is saved there; but never in
 // the place of a file that could not be opened.
 void frmTavimor::takeSaveName() {
-  const bool isCancelled = cdbFile.ShowSave() == FileDialogEnd::Cancelled;
+  const bool isCancelled = cdbFile.ShowSave() == DialogEnd::Cancelled;
   if (isCancelled && !unreadableFile_.empty() && cdbFile.FileName == unreadableFile_) return;
   unreadableFile_.clear();
   model_.FileName = cdbFile.FileName;

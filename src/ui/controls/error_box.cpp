@@ -3,7 +3,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 
-#include "ui/controls/file_dialog.h"
+#include "ui/controls/common_dialog.h"
 #include "ui/controls/message_box.h"
 
 namespace tavimor {
@@ -31,8 +31,8 @@ bool wantsCopy(const RunTimeError& error, const Save& save) {
 }
 
 bool hasSavedCopy(const Save& save) {
-  FileDialog dialog;
-  if (dialog.ShowSave() == FileDialogEnd::Cancelled) return false;
+  CommonDialog dialog;
+  if (dialog.ShowSave() == DialogEnd::Cancelled) return false;
   try {
     save(dialog.FileName);
     return true;

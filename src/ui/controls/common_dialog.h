@@ -4,20 +4,20 @@
 
 namespace tavimor {
 
-enum class FileDialogEnd { Confirmed, Cancelled };
+enum class DialogEnd { Confirmed, Cancelled };
 
 /// The dialogs in which the user names a problem's file. No filter, no default extension.
 ///
 /// FileName is what the dialogs begin with and what they leave; calling one off leaves it as it was, so that a name
 /// once given is there again after a later dialog that was called off.
-class FileDialog {
+class CommonDialog {
  public:
   std::string FileName;
 
-  FileDialogEnd ShowOpen();
+  DialogEnd ShowOpen();
 
   /// Asks before it takes a name under which one of a pair's files exists already.
-  FileDialogEnd ShowSave();
+  DialogEnd ShowSave();
 };
 
 /// Whether the pair of this path may be written as far as the user is concerned: asks where one of the files exists.

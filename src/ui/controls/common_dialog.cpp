@@ -1,4 +1,4 @@
-#include "ui/controls/file_dialog.h"
+#include "ui/controls/common_dialog.h"
 
 #include <QApplication>
 #include <QFileDialog>
@@ -19,35 +19,35 @@ QString existingFiles(const std::string& path) {
   return existing.join(QLatin1Char('\n'));
 }
 
-FileDialogEnd show(QFileDialog& dialog, std::string& fileName) {
+DialogEnd show(QFileDialog& dialog, std::string& fileName) {
   dialog.setOption(QFileDialog::DontConfirmOverwrite);
   if (!fileName.empty()) {
     const QFileInfo previous(QString::fromStdString(fileName));
     dialog.setDirectory(previous.absolutePath());
     dialog.selectFile(previous.fileName());
   }
-  if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return FileDialogEnd::Cancelled;
+  if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return DialogEnd::Cancelled;
   fileName = dialog.selectedFiles().constFirst().toStdString();
-  return FileDialogEnd::Confirmed;
+  return DialogEnd::Confirmed;
 }
 
 }  // namespace
 
-FileDialogEnd FileDialog::ShowOpen() {
+DialogEnd CommonDialog::ShowOpen() {
   QFileDialog dialog(QApplication::activeWindow(), QStringLiteral("Open"));
   dialog.setFileMode(QFileDialog::ExistingFile);
   return show(dialog, FileName);
 }
 
-FileDialogEnd FileDialog::ShowSave() {
+DialogEnd CommonDialog::ShowSave() {
   std::string chosen = FileName;
   do {
     QFileDialog dialog(QApplication::activeWindow(), QStringLiteral("Save As"));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
-    if (show(dialog, chosen) == FileDialogEnd::Cancelled) return FileDialogEnd::Cancelled;
+    if (show(dialog, chosen) == DialogEnd::Cancelled) return DialogEnd::Cancelled;
   } while (!mayReplacePair(chosen));
   FileName = chosen;
-  return FileDialogEnd::Confirmed;
+  return DialogEnd::Confirmed;
 }
 
 bool mayReplacePair(const std::string& path) {

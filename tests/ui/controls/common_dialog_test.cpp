@@ -1,4 +1,4 @@
-#include "ui/controls/file_dialog.h"
+#include "ui/controls/common_dialog.h"
 
 #include <gtest/gtest.h>
 
@@ -22,13 +22,13 @@ class FileDialogs : public testing::Test {
 
   Dialogs dialogs;
   QTemporaryDir folder;
-  FileDialog dialog;
+  CommonDialog dialog;
 };
 
 TEST_F(FileDialogs, OpenTakesAnExistingFile) {
   const QString path = makeFile("problem");
   dialogs.expectAndType(path);
-  EXPECT_EQ(dialog.ShowOpen(), FileDialogEnd::Confirmed);
+  EXPECT_EQ(dialog.ShowOpen(), DialogEnd::Confirmed);
   EXPECT_EQ(dialog.FileName, path.toStdString());
 }
 
@@ -36,14 +36,14 @@ TEST_F(FileDialogs, CallingOffKeepsTheEarlierName) {
   dialog.FileName = makeFile("problem").toStdString();
   dialogs.expectAndCancel();
   dialogs.expectAndCancel();
-  EXPECT_EQ(dialog.ShowOpen(), FileDialogEnd::Cancelled);
-  EXPECT_EQ(dialog.ShowSave(), FileDialogEnd::Cancelled);
+  EXPECT_EQ(dialog.ShowOpen(), DialogEnd::Cancelled);
+  EXPECT_EQ(dialog.ShowSave(), DialogEnd::Cancelled);
   EXPECT_EQ(dialog.FileName, pathOf("problem").toStdString());
 }
 
 TEST_F(FileDialogs, SaveTakesANewNameAsItStands) {
   dialogs.expectAndType(pathOf("new"));
-  EXPECT_EQ(dialog.ShowSave(), FileDialogEnd::Confirmed);
+  EXPECT_EQ(dialog.ShowSave(), DialogEnd::Confirmed);
   EXPECT_EQ(dialog.FileName, pathOf("new").toStdString());
 }
 
@@ -52,7 +52,7 @@ TEST_F(FileDialogs, SaveAsksBeforeItReplacesTheSpecification) {
   QString question;
   dialogs.expectAndType(path);
   dialogs.expectAndPress(QStringLiteral("Yes"), &question);
-  EXPECT_EQ(dialog.ShowSave(), FileDialogEnd::Confirmed);
+  EXPECT_EQ(dialog.ShowSave(), DialogEnd::Confirmed);
   EXPECT_TRUE(question.contains(path)) << question.toStdString();
 }
 
@@ -61,7 +61,7 @@ TEST_F(FileDialogs, SaveAsksBeforeItReplacesTheValuesAlone) {
   QString question;
   dialogs.expectAndType(pathOf("problem"));
   dialogs.expectAndPress(QStringLiteral("Yes"), &question);
-  EXPECT_EQ(dialog.ShowSave(), FileDialogEnd::Confirmed);
+  EXPECT_EQ(dialog.ShowSave(), DialogEnd::Confirmed);
   EXPECT_TRUE(question.contains(values)) << question.toStdString();
 }
 
@@ -69,7 +69,7 @@ TEST_F(FileDialogs, SaveAsksForAnotherNameAfterNo) {
   dialogs.expectAndType(makeFile("problem"));
   dialogs.expectAndPress(QStringLiteral("No"));
   dialogs.expectAndType(pathOf("other"));
-  EXPECT_EQ(dialog.ShowSave(), FileDialogEnd::Confirmed);
+  EXPECT_EQ(dialog.ShowSave(), DialogEnd::Confirmed);
   EXPECT_EQ(dialog.FileName, pathOf("other").toStdString());
 }
 
