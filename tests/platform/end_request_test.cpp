@@ -1,0 +1,40 @@
+#include "platform/end_request.h"
+
+#include <gtest/gtest.h>
+#include <poll.h>
+
+#include <csignal>
+
+namespace tavimor {
+namespace {
+
+bool hasRequest(int descriptor) {
+  pollfd waiting{descriptor, POLLIN, 0};
+  return poll(&waiting, 1, 0) == 1;
+}
+
+// The process as it was, whatever a test has it catch.
+class EndRequest : public testing::TestWithParam<int> {
+ protected:
+  ~EndRequest() override { std::signal(GetParam(), SIG_DFL); }
+};
+
+TEST_P(EndRequest, BecomesReadableInsteadOfKilling) {
+  const int requests = watchEndRequests();
+  ASSERT_GE(requests, 0);
+  EXPECT_FALSE(hasRequest(requests));
+  std::raise(GetParam());
+  EXPECT_TRUE(hasRequest(requests));
+}
+
+TEST_P(EndRequest, StaysIgnoredWhereItWasIgnored) {
+  std::signal(GetParam(), SIG_IGN);
+  const int requests = watchEndRequests();
+  std::raise(GetParam());
+  EXPECT_FALSE(hasRequest(requests));
+}
+
+INSTANTIATE_TEST_SUITE_P(Signals, EndRequest, testing::Values(SIGTERM, SIGINT));
+
+}  // namespace
+}  // namespace tavimor
