@@ -78,6 +78,7 @@ class frmTavimor : public Form, private MainControls {
   void mnuSave_Click();
   void mnuSaveAs_Click();
   void takeSaveName();
+  void saveIfNamed();
   void SaveProblem();
   void showOpened(Dimension opened, const AllSpecFields& fields);
 

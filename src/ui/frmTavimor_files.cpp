@@ -93,12 +93,12 @@ void frmTavimor::LoadObjects() {
 
 void frmTavimor::mnuSave_Click() {
   if (model_.FileName.empty()) takeSaveName();
-  if (!model_.FileName.empty()) SaveProblem();
+  saveIfNamed();
 }
 
 void frmTavimor::mnuSaveAs_Click() {
   takeSaveName();
-  if (!model_.FileName.empty()) SaveProblem();
+  saveIfNamed();
 }
 
 // A dialog that is called off leaves the name of the dialog before it, and the problem is saved there; but never in
@@ -108,6 +108,11 @@ void frmTavimor::takeSaveName() {
   if (isCancelled && !unreadableFile_.empty() && cdbFile.FileName == unreadableFile_) return;
   unreadableFile_.clear();
   model_.FileName = cdbFile.FileName;
+}
+
+// The program may have been told to end while the dialog was open: nobody has asked it to save then.
+void frmTavimor::saveIfNamed() {
+  if (!isEnding() && !model_.FileName.empty()) SaveProblem();
 }
 
 void frmTavimor::SaveProblem() {

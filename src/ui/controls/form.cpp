@@ -1,7 +1,11 @@
 #include "ui/controls/form.h"
 
+#include <QApplication>
 #include <QCloseEvent>
+#include <QThread>
+#include <QTimer>
 #include <QWindow>
+#include <utility>
 
 namespace tavimor {
 
@@ -27,6 +31,23 @@ void Form::unload() {
   Form_Unload();
   hide();
   deleteLater();
+}
+
+void Form::unloadFromOutside() {
+  constexpr int kPause = 10;  // milliseconds, in which a dialog that was called off comes to its end
+  if (std::exchange(isEnding_, true)) return;
+  auto* timer = new QTimer(this);
+  connect(timer, &QTimer::timeout, this, &Form::unloadUnlessDialogIsOpen);
+  timer->start(kPause);
+}
+
+// A dialog runs an event loop of its own within that of the program.
+void Form::unloadUnlessDialogIsOpen() {
+  if (QWidget* dialog = QApplication::activeModalWidget()) {
+    dialog->close();
+  } else if (QThread::currentThread()->loopLevel() <= 1) {
+    unload();
+  }
 }
 
 void Form::disable() {

@@ -20,6 +20,13 @@ class Form : public QWidget {
   /// What closing the form from its title bar does. Once it has begun, it does nothing more.
   void unload();
 
+  /// Unloads the form at a request from outside, which may come while a dialog waits for its answer: dialogs are called
+  /// off, and the unloading begins when the event procedures that opened them have come to their ends.
+  void unloadFromOutside();
+
+  /// True from a request from outside on: what an event procedure still does, the user has not asked for.
+  bool isEnding() const { return isEnding_; }
+
   /// Shown but refusing keys and clicks, as while another form is worked in; enable() brings the focus back.
   void disable();
   void enable();
@@ -38,7 +45,10 @@ class Form : public QWidget {
   void closeEvent(QCloseEvent* event) override;
 
  private:
+  void unloadUnlessDialogIsOpen();
+
   QPointer<QWidget> focusBeforeDisabled_;
+  bool isEnding_ = false;
 };
 
 }  // namespace tavimor

@@ -1,10 +1,12 @@
 #include <gtest/gtest.h>
 
 #include <QDir>
+#include <csignal>
 
 #include "model/problem_reader.h"
 #include "model/problem_writer.h"
 #include "ui/controls/application.h"
+#include "ui/controls/polite_end.h"
 #include "ui/support/main_window_test.h"
 
 namespace tavimor {
@@ -63,6 +65,19 @@ TEST_F(Save, AsCalledOffWritesUnderTheNameOfTheDialogBefore) {
   dialogs.expectAndCancel();
   saveAsByKey();
   EXPECT_TRUE(contentOf("new").contains("\"x\",0,5,2.5"));
+}
+
+TEST_F(Save, AsCalledOffByTheProgramsEndWritesNothing) {
+  writeProblem(twoVariables(), file("problem"));
+  open("problem");
+  const QByteArray before = contentOf("problem");
+  enter("txtUL(0)", "5");
+  unloadOnEndRequest(*window);
+  dialogs.expect([](QDialog&) { std::raise(SIGTERM); });
+  saveAsByKey();
+  EXPECT_EQ(contentOf("problem"), before);
+  EXPECT_TRUE(QTest::qWaitFor([] { return Form::openForms().isEmpty(); }));
+  std::signal(SIGTERM, SIG_DFL);
 }
 
 TEST_F(Save, AsAsksBeforeItReplacesAPair) {
