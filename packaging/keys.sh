@@ -1,7 +1,7 @@
 # Keys for the real program on the display of $DISPLAY; to be sourced. Without a window manager it is the script that
 # gives a new window the keyboard.
 
-focus() { xdotool search --sync --onlyvisible --name "$1" windowfocus --sync; }
+focus() { timeout 30 xdotool search --sync --onlyvisible --name "$1" windowfocus --sync; }
 keys() { xdotool key --delay 30 "$@"; }
 typed() { xdotool type --delay 15 -- "$1"; }
 

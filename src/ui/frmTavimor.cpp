@@ -6,6 +6,7 @@
 #include "engine/Compute.h"
 #include "engine/evaluate.h"
 #include "model/var_values.h"
+#include "ui/SubMain.h"
 #include "ui/controls/message_box.h"
 
 namespace tavimor {
@@ -43,6 +44,7 @@ void frmTavimor::Form_Load() {
 }
 
 void frmTavimor::Form_Unload() {
+  RestoreDecimalSeparator();
   const QVector<Form*> forms = openForms();
   for (Form* form : forms) form->unload();
   QCoreApplication::quit();
@@ -52,12 +54,15 @@ void frmTavimor::connectCommands() {
   connect(mnuOpen, &QAction::triggered, this, &frmTavimor::mnuOpen_Click);
   connect(mnuSave, &QAction::triggered, this, &frmTavimor::mnuSave_Click);
   connect(mnuSaveAs, &QAction::triggered, this, &frmTavimor::mnuSaveAs_Click);
+  connect(mnuAbout, &QAction::triggered, this, &frmTavimor::mnuAbout_Click);
   connect(cmdNextVar, &QPushButton::clicked, this, &frmTavimor::cmdNextVar_Click);
   connect(cmdPrevVar, &QPushButton::clicked, this, &frmTavimor::cmdPrevVar_Click);
   connect(cmdEditFun, &QPushButton::clicked, this, &frmTavimor::cmdEditFun_Click);
   connect(cmdCompute, &QPushButton::clicked, this, &frmTavimor::cmdCompute_Click);
   connect(cmdEvaluations, &QPushButton::clicked, this, &frmTavimor::cmdEvaluations_Click);
 }
+
+void frmTavimor::mnuAbout_Click() { ShowAbout(); }
 
 void frmTavimor::GetVarX(Long v, Long i) { tavimor::GetVarX(model_, v, i); }
 

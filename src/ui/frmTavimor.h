@@ -54,6 +54,7 @@ class frmTavimor : public Form, private MainControls {
   void Form_Load();
   void Form_Unload() override;
   void connectCommands();
+  void mnuAbout_Click();
   void cmdNextVar_Click();
   void cmdPrevVar_Click();
   void showBlockNumber(Long number);

@@ -4,7 +4,9 @@
 #include <optional>
 
 #include "model/problem_writer.h"
+#include "ui/SubMain.h"
 #include "ui/controls/application.h"
+#include "ui/controls/polite_end.h"
 #include "ui/frmTavimor.h"
 
 namespace {
@@ -46,8 +48,9 @@ int main(int argc, char** argv) {
   QApplication::setQuitOnLastWindowClosed(false);
   Dimension model;
   application.setProblemSaver([&model](const std::string& path) { writeProblem(model, path); });
-  auto* window = new frmTavimor(model);
-  window->show();
+  frmTavimor* window = Main(model);
+  if (window == nullptr) return 0;
+  unloadOnEndRequest(*window);
   if (!arguments.problem.empty()) QTimer::singleShot(0, window, [&] { window->openFile(arguments.problem); });
   return QApplication::exec();
 }

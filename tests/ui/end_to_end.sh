@@ -1,36 +1,9 @@
 #!/bin/bash
 # The real program on a display of its own, driven by keys alone: a typed specification, Save, reopen, Compute; a whole
 # problem typed, fitted and evaluated.
-# Usage: end_to_end.sh TAVIMOR TAVIMOR_CLI. Leaves with 77 where there is no such display to be had.
+# Usage: end_to_end.sh TAVIMOR TAVIMOR_CLI
 set -euo pipefail
-tavimor=$1
-cli=$2
-
-for tool in Xvfb xdotool xclip; do
-  command -v "$tool" >/dev/null || { echo "SKIPPED: $tool is not installed, so the program cannot be driven"; exit 77; }
-done
-if [ -z "${TAVIMOR_END_TO_END_DISPLAY:-}" ]; then
-  export TAVIMOR_END_TO_END_DISPLAY=1
-  exec "$(dirname "$0")/../../packaging/with_display.sh" 1024x768 "$0" "$tavimor" "$cli"
-fi
-
-source "$(dirname "$0")/../../packaging/keys.sh"
-folder=$(mktemp -d)
-trap 'kill "${pid:-}" 2>/dev/null || true; rm -rf "$folder"' EXIT
-cd "$folder"
-
-fail() { echo "FAILED: $*"; exit 1; }
-
-start() {
-  "$tavimor" "$@" &
-  pid=$!
-  focus '^Tavimor$'
-}
-
-waitFor() {
-  for _ in $(seq 100); do "$@" && return; sleep 0.1; done
-  fail "waited in vain for: $*"
-}
+source "$(dirname "$0")/support/driven_program.sh"
 
 # One variable, x on [-1, 3], 5 values, degree 2, about 1: each field typed and left by Tab or Enter.
 start
@@ -47,7 +20,7 @@ typed "$folder/typed"
 keys Return
 waitFor test -s typed.dat
 waitFor test -s typed
-kill "$pid"
+endPolitely
 
 printf ' 0 \r\n"x",-1,3,1,#TRUE#,0,2\r\n#FALSE#\r\n' | cmp - typed || fail "the specification is not what was typed"
 grep -q '^ 4 ' typed.dat || fail "the number of values is not what was typed"
@@ -76,9 +49,8 @@ keys Return
 waitFor xdotool search --onlyvisible --name '^Tavimor$' getwindowname %2 >/dev/null
 xdotool search --onlyvisible --name '^Tavimor$' windowfocus --sync %2
 keys Return
-exitCode=0
-wait "$pid" || exitCode=$?
-[ "$exitCode" = 1 ] || fail "the program ended with exit code $exitCode"
+endsWith 1
+
 # A whole problem typed from the first number to the last, fitted and evaluated at a point.
 start
 typeProblem
@@ -86,5 +58,5 @@ fitAndEvaluate
 keys Tab ctrl+a ctrl+c
 isEstimated() { [ "$(xclip -o -selection clipboard 2>/dev/null)" = 3.25 ]; }
 waitFor isEstimated
-kill "$pid"
+endPolitely
 echo "passed"

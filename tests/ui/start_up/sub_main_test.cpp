@@ -1,0 +1,129 @@
+#include "ui/SubMain.h"
+
+#include <gtest/gtest.h>
+
+#include <QElapsedTimer>
+#include <QMessageBox>
+#include <QPointer>
+#include <QTest>
+
+#include "platform/locale.h"
+#include "support/user_locale.h"
+#include "ui/frmAbout.h"
+#include "ui/frmTavimor.h"
+#include "ui/support/dialogs.h"
+
+namespace tavimor {
+namespace {
+
+std::string separator() {
+  std::string text(GetLocaleInfo(GetUserDefaultLCID(), LocaleItem::DecimalSeparator, {}), '\0');
+  GetLocaleInfo(GetUserDefaultLCID(), LocaleItem::DecimalSeparator, text);
+  text.pop_back();
+  return text;
+}
+
+class Start : public testing::Test {
+ protected:
+  ~Start() override {
+    delete window;
+    // What the program had to write back at its end must not reach the next test.
+    locale.set("LC_ALL", "C");
+    ReadDecimalSeparator();
+  }
+
+  void useComma() { locale.set("LC_ALL", test::kGermany); }
+
+  void start() {
+    QElapsedTimer lasting;
+    lasting.start();
+    window = Main(model);
+    milliseconds = lasting.elapsed();
+  }
+
+  test::UserLocale locale;
+  Dialogs dialogs;
+  Dimension model;
+  QPointer<frmTavimor> window;
+  qint64 milliseconds = 0;
+};
+
+TEST_F(Start, WithAPointTheAboutWindowStandsForTwoToThreeSecondsBeforeTheMainWindow) {
+  start();
+  EXPECT_GE(milliseconds, 2000);
+  EXPECT_LT(milliseconds, 3500);  // the making of the main window included
+  ASSERT_NE(window, nullptr);
+  EXPECT_TRUE(window->isVisible());
+  for (const Form* form : Form::openForms()) EXPECT_NE(form->objectName(), QStringLiteral("frmAbout"));
+}
+
+TEST_F(Start, WithACommaYesChangesItToAPointAndTheEndBringsItBack) {
+  useComma();
+  dialogs.expectAndPress("Yes");
+  start();
+  ASSERT_NE(window, nullptr);
+  EXPECT_EQ(separator(), ".");
+  window->close();
+  EXPECT_EQ(separator(), ",");
+  EXPECT_EQ(locale.text(), "LC_ALL=de_DE.UTF-8");
+}
+
+class Declining : public Start, public testing::WithParamInterface<const char*> {};
+
+TEST_P(Declining, EndsWithNothingChangedAndNoWindowShown) {
+  useComma();
+  dialogs.expectAndPress(QString::fromLatin1(GetParam()));
+  start();
+  EXPECT_EQ(window, nullptr);
+  EXPECT_TRUE(Form::openForms().isEmpty());
+  EXPECT_LT(milliseconds, 2000);
+  EXPECT_EQ(locale.text(), "LC_ALL=de_DE.UTF-8");
+}
+
+INSTANTIATE_TEST_SUITE_P(Answers, Declining, testing::Values("No", "Cancel"));
+
+TEST_F(Start, EscapeIsCancel) {
+  useComma();
+  dialogs.expectAndCancel();
+  EXPECT_EQ(DecimalPoint(), StartUp::Declined);
+}
+
+TEST_F(Start, EnterIsYes) {
+  useComma();
+  dialogs.expect([](QDialog& box) { QTest::keyClick(&box, Qt::Key_Return); });
+  EXPECT_EQ(DecimalPoint(), StartUp::GoesOn);
+  EXPECT_EQ(separator(), ".");
+  RestoreDecimalSeparator();
+}
+
+TEST_F(Start, TheQuestionIsACriticalMessageToTheLetter) {
+  useComma();
+  dialogs.expect([](QDialog& dialog) {
+    auto& box = dynamic_cast<QMessageBox&>(dialog);
+    EXPECT_EQ(box.windowTitle(), QStringLiteral("Decimal Comma Warning!"));
+    EXPECT_EQ(box.icon(), QMessageBox::Critical);
+    EXPECT_EQ(box.standardButtons(), QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
+    EXPECT_EQ(box.text().toStdString(),
+              "Proper operation of this application requires the use of the DECIMAL POINT.\n"
+              "Your system is currently using the DECIMAL COMMA.\n"
+              "\n"
+              "Do you wish to temporarily change this system setting to decimal point?\n"
+              "(Upon exiting, this application will restore your setting.)\n"
+              "(See HELP FILE or visit www.tavimor.example for instructions on how to change MANUALLY)\n"
+              "\n"
+              "Press YES to change.");
+    QTest::keyClick(&box, Qt::Key_Escape);
+  });
+  DecimalPoint();
+}
+
+TEST_F(Start, TheEndWritesBackASeparatorThatNobodyChangedHere) {
+  locale.set("LANG", test::kGermany);
+  ReadDecimalSeparator();
+  SetDecimalPoint();  // by another part of the system, as it were
+  (new frmTavimor(model))->close();
+  EXPECT_EQ(separator(), ",");
+}
+
+}  // namespace
+}  // namespace tavimor
