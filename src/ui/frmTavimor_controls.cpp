@@ -7,12 +7,6 @@ namespace tavimor {
 
 namespace {
 
-QPushButton* makePlainButton(const char* name, const char* caption) {
-  auto* button = makeControl<QPushButton>(QLatin1String(name), caption);
-  button->setFocusPolicy(Qt::StrongFocus);
-  return button;
-}
-
 TextBox* makeBox(const char* name, const char* accessibleName, QLabel* label) {
   auto* box = new TextBox(QLatin1String(name));
   box->setFont(verdanaFont());
@@ -37,13 +31,13 @@ void MainControls::makeControls() {
   lblPoints = makeControl<QLabel>(QStringLiteral("lblPoints"), "# of values:");
   lblTerms = makeControl<QLabel>(QStringLiteral("lblTerms"), "Desired degree:");
   lblExpansion = makeControl<QLabel>(QStringLiteral("lblExpansion"), "Center of expansion:");
-  cmdPrevVar = makePlainButton("cmdPrevVar", "Previous");
-  cmdNextVar = makePlainButton("cmdNextVar", "Next");
+  cmdPrevVar = makeButton(QStringLiteral("cmdPrevVar"), "Previous");
+  cmdNextVar = makeButton(QStringLiteral("cmdNextVar"), "Next");
 
-  cmdEditFun = makePlainButton("cmdEditFun", "Edit function");
-  cmdCompute = makePlainButton("cmdCompute", "Compute");
+  cmdEditFun = makeButton(QStringLiteral("cmdEditFun"), "Edit function");
+  cmdCompute = makeButton(QStringLiteral("cmdCompute"), "Compute");
   cmdCompute->setToolTip(QStringLiteral("Compute coefficients"));
-  cmdEvaluations = makePlainButton("cmdEvaluations", "Evaluations");
+  cmdEvaluations = makeButton(QStringLiteral("cmdEvaluations"), "Evaluations");
   lstCoeff = new ListBox(QStringLiteral("lstCoeff"));
   lstCoeff->setToolTip(QStringLiteral("Coefficients"));
   lstCoeff->setAccessibleName(QStringLiteral("Coefficients"));

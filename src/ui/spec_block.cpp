@@ -1,7 +1,5 @@
 #include "ui/spec_block.h"
 
-#include <initializer_list>
-
 #include "ui/controls/control_array.h"
 #include "ui/controls/make_control.h"
 
@@ -36,11 +34,9 @@ SpecBlock makeSpecBlock(int k) {
   block.txtExpansion->setToolTip(QStringLiteral("Enter \"*\" for center of interval"));
   block.chkSpaced = makeControl<QCheckBox>(elementName("chkSpaced", k), "Equally spaced");
   block.chkSpaced->setChecked(true);
-  block.cmdAddVars = makeControl<QPushButton>(elementName("cmdAddVars", k), "Add values");
-  block.cmdEditVars = makeControl<QPushButton>(elementName("cmdEditVars", k), "Edit values");
-  for (QAbstractButton* button :
-       std::initializer_list<QAbstractButton*>{block.chkSpaced, block.cmdAddVars, block.cmdEditVars})
-    button->setFocusPolicy(Qt::StrongFocus);
+  block.chkSpaced->setFocusPolicy(Qt::StrongFocus);
+  block.cmdAddVars = makeButton(elementName("cmdAddVars", k), "Add values");
+  block.cmdEditVars = makeButton(elementName("cmdEditVars", k), "Edit values");
   return block;
 }
 

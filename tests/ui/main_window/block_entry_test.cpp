@@ -104,6 +104,13 @@ TEST_F(BlockEntry, EnterMovesOnLikeTabThroughTheFields) {
             (std::vector<std::string>{"txtUL(0)", "txtPoints(0)", "txtTerms(0)", "txtExpansion(0)", "chkSpaced(0)"}));
 }
 
+TEST_F(BlockEntry, EnterPressesTheButtonThatHasTheFocus) {
+  QTest::mouseClick(&box("txtLL(0)"), Qt::LeftButton);
+  button("cmdCompute").setFocus();
+  press(Qt::Key_Return);
+  EXPECT_TRUE(model.FitDone);
+}
+
 TEST_F(BlockEntry, TabReachesEveryControlAsOneReads) {
   QTest::mouseClick(&box("txtExpansion(0)"), Qt::LeftButton);
   std::vector<std::string> order;
