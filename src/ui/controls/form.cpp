@@ -16,6 +16,9 @@ QVector<Form*>& forms() {
   return list;
 }
 
+// A dialog runs an event loop of its own within that of the program, and its event procedure waits for its end.
+bool isWithinDialog() { return QThread::currentThread()->loopLevel() > 1; }
+
 }  // namespace
 
 Form::Form(const QString& name) {
@@ -41,11 +44,10 @@ void Form::unloadFromOutside() {
   timer->start(kPause);
 }
 
-// A dialog runs an event loop of its own within that of the program.
 void Form::unloadUnlessDialogIsOpen() {
   if (QWidget* dialog = QApplication::activeModalWidget()) {
     dialog->close();
-  } else if (QThread::currentThread()->loopLevel() <= 1) {
+  } else if (!isWithinDialog()) {
     unload();
   }
 }
@@ -72,8 +74,13 @@ void Form::showAbove(Form& other) {
 const QVector<Form*>& Form::openForms() { return forms(); }
 
 void Form::closeEvent(QCloseEvent* event) {
-  event->accept();
-  unload();
+  // Behind a dialog only the end of the session closes a form.
+  event->setAccepted(!isWithinDialog());
+  if (event->isAccepted()) {
+    unload();
+  } else {
+    unloadFromOutside();
+  }
 }
 
 }  // namespace tavimor

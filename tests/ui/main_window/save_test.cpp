@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <QDir>
+#include <QTimer>
 #include <csignal>
 
 #include "model/problem_reader.h"
@@ -67,18 +68,34 @@ TEST_F(Save, AsCalledOffWritesUnderTheNameOfTheDialogBefore) {
   EXPECT_TRUE(contentOf("new").contains("\"x\",0,5,2.5"));
 }
 
-TEST_F(Save, AsCalledOffByTheProgramsEndWritesNothing) {
+// What comes from outside while the user is asked for the name.
+struct Ending {
+  const char* name;
+  void (*come)();
+};
+
+class SaveAtTheEnd : public Save, public testing::WithParamInterface<Ending> {
+ protected:
+  ~SaveAtTheEnd() override { std::signal(SIGTERM, SIG_DFL); }
+};
+
+TEST_P(SaveAtTheEnd, WritesNothing) {
   writeProblem(twoVariables(), file("problem"));
   open("problem");
   const QByteArray before = contentOf("problem");
   enter("txtUL(0)", "5");
   unloadOnEndRequest(*window);
-  dialogs.expect([](QDialog&) { std::raise(SIGTERM); });
-  saveAsByKey();
+  dialogs.expect([](QDialog&) { GetParam().come(); });
+  QTimer::singleShot(0, window, [this] { saveAsByKey(); });
+  EXPECT_EQ(QApplication::exec(), 0);
   EXPECT_EQ(contentOf("problem"), before);
-  EXPECT_TRUE(QTest::qWaitFor([] { return Form::openForms().isEmpty(); }));
-  std::signal(SIGTERM, SIG_DFL);
+  EXPECT_TRUE(Form::openForms().isEmpty());
 }
+
+INSTANTIATE_TEST_SUITE_P(FromOutside, SaveAtTheEnd,
+                         testing::Values(Ending{"Request", [] { std::raise(SIGTERM); }},
+                                         Ending{"EndOfSession", [] { QCoreApplication::quit(); }}),
+                         [](const auto& param) { return param.param.name; });
 
 TEST_F(Save, AsAsksBeforeItReplacesAPair) {
   writeProblem(twoVariables(), file("problem"));

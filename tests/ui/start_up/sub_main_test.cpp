@@ -6,6 +6,7 @@
 #include <QMessageBox>
 #include <QPointer>
 #include <QTest>
+#include <QTimer>
 
 #include "platform/locale.h"
 #include "support/user_locale.h"
@@ -115,6 +116,17 @@ TEST_F(Start, TheQuestionIsACriticalMessageToTheLetter) {
     QTest::keyClick(&box, Qt::Key_Escape);
   });
   DecimalPoint();
+}
+
+TEST_F(Start, TheEndOfTheSessionBringsItBackToo) {
+  useComma();
+  ReadDecimalSeparator();
+  SetDecimalPoint();
+  (new frmTavimor(model))->show();
+  QTimer::singleShot(0, qApp, [] { QCoreApplication::quit(); });
+  EXPECT_EQ(QApplication::exec(), 0);
+  EXPECT_TRUE(Form::openForms().isEmpty());
+  EXPECT_EQ(separator(), ",");
 }
 
 TEST_F(Start, TheEndWritesBackASeparatorThatNobodyChangedHere) {
