@@ -1,4 +1,4 @@
-#include "support/known_coefficients.h"
+#include "support/known_fits.h"
 
 #include <gtest/gtest.h>
 
@@ -6,6 +6,8 @@
 #include <iostream>
 #include <limits>
 
+#include "runtime/val.h"
+#include "support/document.h"
 #include "support/example.h"
 #include "support/full_system.h"
 
@@ -17,59 +19,6 @@ using test::Coefficients;
 using test::Example;
 using test::knownResult;
 
-struct DataSet {
-  const char* name;
-  const char* example;
-  const char* table;
-  std::vector<std::string> centres;  // as typed; "*" is the middle of the interval
-  double digits;                     // that every coefficient reaches
-};
-
-// The floors are what the fit reached, rounded down. About the middle, Filip's own certified digits set the bound: the
-// expansion cancels all but seven of the fifteen.
-std::vector<DataSet> dataSets() {
-  return {
-      {"OzoneAboutZero", "ozone", "nist_norris", {"0"}, 12},
-      {"OzoneAboutTheMiddle", "ozone", "nist_norris", {"*"}, 14},
-      {"LoadCellAboutZero", "load-cell", "nist_pontius", {"0"}, 11},
-      {"LoadCellAboutTheMiddle", "load-cell", "nist_pontius", {"*"}, 13},
-      {"FilipAboutTheMiddle", "nist/filip", "nist_filip", {"*"}, 7},
-      {"Wampler1AboutZero", "nist/wampler1", "nist_wampler1", {"0"}, 6.5},
-      {"Wampler1AboutTheMiddle", "nist/wampler1", "nist_wampler1", {"*"}, 13.5},
-      {"Wampler2AboutZero", "nist/wampler2", "nist_wampler2", {"0"}, 9.5},
-      {"Wampler2AboutTheMiddle", "nist/wampler2", "nist_wampler2", {"*"}, 12},
-      {"Wampler3AboutZero", "nist/wampler3", "nist_wampler3", {"0"}, 6.5},
-      {"Wampler3AboutTheMiddle", "nist/wampler3", "nist_wampler3", {"*"}, 13.5},
-      {"Wampler4AboutZero", "nist/wampler4", "nist_wampler4", {"0"}, 6.5},
-      {"Wampler4AboutTheMiddle", "nist/wampler4", "nist_wampler4", {"*"}, 13.5},
-      {"Wampler5AboutZero", "nist/wampler5", "nist_wampler5", {"0"}, 6.5},
-      {"Wampler5AboutTheMiddle", "nist/wampler5", "nist_wampler5", {"*"}, 13.5},
-      {"HeatIndexAboutZero", "heat-index", "heat_index", {"0", "0"}, 7.5},
-      {"HeatIndexAboutTheMiddle", "heat-index", "heat_index", {"*", "*"}, 11.5},
-      {"SoundSpeedAboutItsCentres", "sound-speed", "mackenzie", {"0", "35", "0"}, 7},
-      {"SoundSpeedAboutTheMiddle", "sound-speed", "mackenzie", {"*", "*", "*"}, 10},
-  };
-}
-
-// The centres about which the tables' coefficients are given.
-PerVariable<double> givenCentres(const std::string& table) {
-  return table == "mackenzie" ? PerVariable<double>{0, 35, 0, 0} : PerVariable<double>{};
-}
-
-Coefficients knownAboutTheCentresOf(const Dimension& model, const std::string& table) {
-  Coefficients known = knownResult(table).coefficients;
-  for (Long k = 0; k <= model.LastVar; ++k)
-    known = test::expandedAbout(known, k, givenCentres(table)[k], model.Centre[k]);
-  return known;
-}
-
-double worstDigits(const Dimension& model, const Coefficients& known) {
-  double worst = 15.0;
-  for (const auto& [j, coefficient] : known)
-    worst = std::min(worst, agreeingDigits(model.Coef(j[0], j[1], j[2], j[3]), coefficient));
-  return worst;
-}
-
 void state(const std::string& what, double digits) {
   std::ostringstream text;
   text << std::fixed << std::setprecision(1) << digits;
@@ -77,25 +26,37 @@ void state(const std::string& what, double digits) {
   std::cout << "             " << what << ": " << text.str() << '\n';
 }
 
-class KnownCoefficients : public testing::TestWithParam<DataSet> {};
+class KnownFits : public testing::TestWithParam<test::KnownFit> {};
 
-TEST_P(KnownCoefficients, AreReachedInTheAgreedDigits) {
-  const DataSet& set = GetParam();
-  Example example(set.example);
-  example.fit(set.centres);
-  ASSERT_TRUE(example.model.FitDone);
-  const double digits = worstDigits(example.model, knownAboutTheCentresOf(example.model, set.table));
-  state("log relative error of the coefficients", digits);
-  EXPECT_GE(digits, set.digits);
+// A cell of the page's table of examples, for the fit of a row.
+std::string cellOfThePage(const test::KnownFit& fit, std::size_t column) {
+  return test::Document("numerics.md").row(firstCells(fit)).at(column);
 }
 
-INSTANTIATE_TEST_SUITE_P(Sets, KnownCoefficients, testing::ValuesIn(dataSets()),
-                         [](const auto& set) { return set.param.name; });
+TEST_P(KnownFits, ReachTheDigitsThatThePageStates) {
+  if (std::numeric_limits<long double>::digits < 64) GTEST_SKIP() << "long double is no longer than double here";
+  constexpr std::size_t coefficientsColumn = 4, squaresColumn = 5;
+  constexpr double printed = 0.1;
+  Example example(GetParam().example);
+  example.fit(GetParam().centres);
+  ASSERT_TRUE(example.model.FitDone);
+  const double digits = test::worstDigits(example.model, test::knownAboutTheCentresOf(example.model, GetParam().table));
+  state("log relative error of the coefficients", digits);
+  EXPECT_NEAR(digits, Val(cellOfThePage(GetParam(), coefficientsColumn)), printed);
+  if (const auto certified = test::certifiedResidualSum(example.model, GetParam().table))
+    EXPECT_NEAR(agreeingDigits(example.model.SumRes2, *certified), Val(cellOfThePage(GetParam(), squaresColumn)),
+                printed);
+  else
+    EXPECT_EQ(cellOfThePage(GetParam(), squaresColumn), "-");
+}
+
+INSTANTIATE_TEST_SUITE_P(KnownCoefficients, KnownFits, testing::ValuesIn(test::knownFits()),
+                         [](const auto& fit) { return fit.param.name; });
 
 TEST(KnownCoefficientsOfFilip, AboutZeroKeepNoDigit) {
   Example example("nist/filip");
   example.fit({"0"});
-  const double digits = worstDigits(example.model, knownResult("nist_filip").coefficients);
+  const double digits = test::worstDigits(example.model, knownResult("nist_filip").coefficients);
   state("log relative error of the coefficients", digits);
   EXPECT_LT(digits, 1.0);
 }
@@ -105,7 +66,7 @@ TEST(KnownCoefficientsOfFilip, AboutTheMiddleAgreeWithALongerArithmetic) {
   if (std::numeric_limits<long double>::digits < 64) GTEST_SKIP() << "long double is no longer than double here";
   Example example("nist/filip");
   example.fit({"*"});
-  const double digits = worstDigits(example.model, test::solutionOfTheFullSystem(example.model));
+  const double digits = test::worstDigits(example.model, test::solutionOfTheFullSystem(example.model));
   state("log relative error of the coefficients", digits);
   EXPECT_GE(digits, 9.5);
 }
@@ -135,9 +96,7 @@ TEST_P(CertifiedStatistics, AreReachedInTheAgreedDigits) {
   example.fit({"*"});
   const Dimension& model = example.model;
   ASSERT_TRUE(model.FitDone);
-  // The certified standard deviation divides by the points less the terms, the program's by the points less two.
-  const long double residualSum =
-      certified["rsd"] * certified["rsd"] * (model.NumGridPoints - static_cast<Long>(model.Coef.size()));
+  const long double residualSum = test::certifiedResidualSum(model, set.table).value();
   const double ofResiduals = agreeingDigits(model.SumRes2, residualSum);
   const double ofError = agreeingDigits(model.StdErr, std::sqrt(residualSum / (model.NumGridPoints - 2)));
   const double ofCorrelation = agreeingDigits(model.CorrCoef, std::sqrt(certified["r2"]));

@@ -1,8 +1,7 @@
 #pragma once
 
-#include <gtest/gtest.h>
-
 #include <string>
+#include <vector>
 
 #include "engine/capture_specs.h"
 #include "model/open_problem.h"

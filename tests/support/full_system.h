@@ -50,17 +50,22 @@ inline Matrix fullNormalEquations(const Dimension& model) {
   return system;
 }
 
-/// The coefficients of the fit by another route: the normal equations of all terms at once, in the longest arithmetic.
-/// Gauss and Jordan without exchanges, which a positive definite matrix does not need.
-inline Coefficients solutionOfTheFullSystem(const Dimension& model) {
-  Matrix system = fullNormalEquations(model);
+/// Makes the leading square of a system diagonal. Gauss and Jordan without exchanges, which a positive definite matrix
+/// does not need.
+inline void reduceToDiagonal(Matrix& system) {
   for (std::size_t pivot = 0; pivot < system.size(); ++pivot)
     for (std::size_t row = 0; row < system.size(); ++row) {
       if (row == pivot) continue;
       const long double factor = system[row][pivot] / system[pivot][pivot];
-      for (std::size_t column = pivot; column <= system.size(); ++column)
+      for (std::size_t column = pivot; column < system[row].size(); ++column)
         system[row][column] -= factor * system[pivot][column];
     }
+}
+
+/// The coefficients of the fit by another route: the normal equations of all terms at once, in the longest arithmetic.
+inline Coefficients solutionOfTheFullSystem(const Dimension& model) {
+  Matrix system = fullNormalEquations(model);
+  reduceToDiagonal(system);
   Coefficients result;
   const auto terms = allIndices(model.Degree);
   for (std::size_t row = 0; row < system.size(); ++row) result[terms[row]] = system[row].back() / system[row][row];
