@@ -12,7 +12,9 @@ namespace tavimor::test {
 /// A page of docs/, of which tests read the examples and tables.
 class Document {
  public:
-  explicit Document(const std::string& name) : text_(readBytes(TAVIMOR_SOURCE_DIR "/docs/" + name)) {}
+  explicit Document(const std::string& name) : text_(readBytes(TAVIMOR_SOURCE_DIR "/docs/" + name)) {
+    std::erase(text_, '\r');  // some systems check pages out with CR LF
+  }
 
   /// The content of the block that begins with "```text name=NAME", every line ended by LF.
   std::string block(const std::string& name) const {
