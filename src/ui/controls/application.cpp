@@ -1,5 +1,6 @@
 #include "ui/controls/application.h"
 
+#include <QIcon>
 #include <QPalette>
 #include <clocale>
 #include <new>
@@ -21,11 +22,21 @@ QPalette withLegibleDisabledText(QPalette palette) {
   return palette;
 }
 
+constexpr int kIconSizes[] = {16, 24, 32, 48, 64, 128, 256};
+
+QIcon programIcon() {
+  QIcon icon;
+  for (const int size : kIconSizes) icon.addFile(QStringLiteral(":/icons/tavimor-%1.png").arg(size));
+  return icon;
+}
+
 }  // namespace
 
 Application::Application(int& argc, char** argv)
     : QApplication(argc, argv), end_([](int exitCode) { QCoreApplication::exit(exitCode); }) {
   setApplicationName(QStringLiteral("Tavimor"));
+  setWindowIcon(programIcon());
+  setDesktopFileName(QStringLiteral("tavimor"));  // how a desktop finds the entry that belongs to a window
   setPalette(withLegibleDisabledText(palette()));
   // The application has set the user's locale; numbers are written with a point everywhere.
   std::setlocale(LC_NUMERIC, "C");

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QIcon>
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
@@ -11,6 +12,20 @@
 
 namespace tavimor {
 namespace {
+
+TEST(WindowIcon, BelongsToEveryWindowInTheSizesOfDesktops) {
+  const QWidget window;
+  for (const int size : {16, 24, 32, 48, 64, 128, 256}) {
+    const QImage picture = window.windowIcon().pixmap(size).toImage();
+    EXPECT_EQ(picture.size(), QSize(size, size));
+    EXPECT_LT(picture.pixelColor(0, 0).alpha(), 20) << "the corners are round";
+    EXPECT_GT(picture.pixelColor(size / 2, size / 8).blue(), 150) << "the ground is blue";
+  }
+}
+
+TEST(WindowIcon, GoesWithTheDesktopEntryOfTheSameName) {
+  EXPECT_EQ(QGuiApplication::desktopFileName(), QStringLiteral("tavimor"));
+}
 
 // A button whose event procedure fails, and an application whose ending is only noted.
 class Dispatcher : public testing::Test {
