@@ -1,0 +1,49 @@
+# Completion of tavimor-cli for bash.
+
+# _tavimor_cli_problems WORD: the problems that begin with WORD, which are the files with values beside them, and folders.
+_tavimor_cli_problems() {
+  local name
+  compopt -o filenames
+  while IFS= read -r name; do
+    if [[ -d ${name/#\~/$HOME} || -e ${name/#\~/$HOME}.dat ]]; then COMPREPLY+=("$name"); fi
+  done < <(compgen -f -- "$1")
+}
+
+_tavimor_cli_files() {
+  compopt -o filenames
+  mapfile -t COMPREPLY < <(compgen -f -- "$1")
+}
+
+# How many words stand between the command and the cursor, options and the name behind -o apart.
+_tavimor_cli_position() {
+  local index position=0
+  for ((index = 2; index < COMP_CWORD; ++index)); do
+    case ${COMP_WORDS[index]} in
+      -o | --output) ((++index)) ;;
+      -*) ;;
+      *) ((++position)) ;;
+    esac
+  done
+  echo "$position"
+}
+
+_tavimor_cli() {
+  local word=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD - 1]} command=${COMP_WORDS[1]}
+  COMPREPLY=()
+  if ((COMP_CWORD == 1)); then
+    mapfile -t COMPREPLY < <(compgen -W 'fit show eval report copy --help --version' -- "$word")
+  elif [[ $command = fit && ($before = -o || $before = --output) ]]; then
+    _tavimor_cli_files "$word"
+  elif [[ $word = -* ]]; then
+    local options=--help
+    if [[ $command = fit ]]; then options='--output --help'; fi
+    mapfile -t COMPREPLY < <(compgen -W "$options" -- "$word")
+  elif [[ $command = @(fit|show|eval|report|copy) ]]; then
+    case $(_tavimor_cli_position) in
+      0) _tavimor_cli_problems "$word" ;;
+      1) if [[ $command = copy ]]; then _tavimor_cli_files "$word"; fi ;;
+    esac
+  fi
+}
+
+complete -F _tavimor_cli tavimor-cli

@@ -1,0 +1,36 @@
+# Completion of tavimor-cli for fish.
+
+# A problem is a file with its values beside it.
+function __tavimor_cli_problems
+    for name in (__fish_complete_path (commandline -ct) | string replace -r '\t.*' '')
+        if test -d $name -o -e $name.dat
+            echo $name
+        end
+    end
+end
+
+# Whether so many words stand between the command and the cursor, options and the name behind -o apart.
+function __tavimor_cli_position -a expected
+    set -l position 0
+    set -l before
+    for word in (commandline -opc)[3..]
+        if not string match -q -- '-*' $word; and not contains -- "$before" -o --output
+            set position (math $position + 1)
+        end
+        set before $word
+    end
+    test $position -eq $expected
+end
+
+complete -c tavimor-cli -f
+complete -c tavimor-cli -s h -l help -d 'Print the help'
+complete -c tavimor-cli -n __fish_use_subcommand -l version -d 'Print the version'
+complete -c tavimor-cli -n __fish_use_subcommand -a fit -d 'Fit the problem and print the results listing'
+complete -c tavimor-cli -n __fish_use_subcommand -a show -d 'Print the specifications and the stored results'
+complete -c tavimor-cli -n __fish_use_subcommand -a eval -d 'Print the estimate at a point'
+complete -c tavimor-cli -n __fish_use_subcommand -a report -d 'Print the report'
+complete -c tavimor-cli -n __fish_use_subcommand -a copy -d 'Save the problem under another name'
+complete -c tavimor-cli -n '__fish_seen_subcommand_from fit' -s o -l output -r -F -d 'Save the fitted problem'
+complete -c tavimor-cli -n '__fish_seen_subcommand_from fit show eval report copy; and __tavimor_cli_position 0' \
+    -a '(__tavimor_cli_problems)'
+complete -c tavimor-cli -n '__fish_seen_subcommand_from copy; and __tavimor_cli_position 1' -F

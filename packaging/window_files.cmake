@@ -1,0 +1,24 @@
+# What the component tavimor installs: the program with windows, its manual, the documents, what a desktop reads.
+tavimor_install_program(tavimor)
+install(FILES ${PROJECT_SOURCE_DIR}/help/tavimor.hlp DESTINATION ${CMAKE_INSTALL_DATADIR}/tavimor COMPONENT tavimor)
+
+# The documents keep their places beside each other, so that their links hold.
+set(documents ${CMAKE_INSTALL_DATAROOTDIR}/doc/tavimor)
+install(FILES ${PROJECT_SOURCE_DIR}/README.md ${PROJECT_SOURCE_DIR}/CHANGELOG.md
+  DESTINATION ${documents} COMPONENT tavimor)
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/docs ${PROJECT_SOURCE_DIR}/examples DESTINATION ${documents} COMPONENT tavimor
+  PATTERN __pycache__ EXCLUDE PATTERN .gitattributes EXCLUDE)
+
+# What a desktop reads.
+if(UNIX AND NOT APPLE)
+  install(FILES desktop/tavimor.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications COMPONENT tavimor)
+  install(FILES desktop/tavimor.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/mime/packages COMPONENT tavimor)
+  install(FILES desktop/example.tavimor.tavimor.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo
+    COMPONENT tavimor)
+  set(icons ${CMAKE_INSTALL_DATADIR}/icons/hicolor)
+  install(FILES icons/tavimor.svg DESTINATION ${icons}/scalable/apps COMPONENT tavimor)
+  foreach(size 16 22 24 32 48 64 128 256 512)
+    install(FILES icons/tavimor-${size}.png DESTINATION ${icons}/${size}x${size}/apps
+      RENAME tavimor.png COMPONENT tavimor)
+  endforeach()
+endif()
