@@ -11,7 +11,9 @@ namespace tavimor {
 namespace {
 
 constexpr int kColumns = 48;  // characters
-constexpr int kRows = 13;
+constexpr int kRows = 12;
+constexpr int kIconRows = 4;  // in the lines that the text leaves empty above itself, and the margin
+constexpr int kMargin = 8;    // pixels
 
 }  // namespace
 
@@ -31,6 +33,9 @@ void frmAbout::Print(const QString& line) {
 void frmAbout::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
   QRect place(0, 0, width(), fontMetrics().lineSpacing());
+  const QRect empty(place.topLeft(), QSize(width(), kIconRows * place.height()));
+  windowIcon().paint(&painter, empty.marginsRemoved({0, kMargin, 0, kMargin}));
+  place.translate(0, place.height());
   for (const QString& line : lines_) {
     painter.drawText(place, Qt::AlignCenter, line);
     place.translate(0, place.height());
