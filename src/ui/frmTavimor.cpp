@@ -38,8 +38,6 @@ void frmTavimor::Form_Load() {
   cmdEditFun->setEnabled(false);
   cmdCompute->setEnabled(false);
   cmdEvaluations->setEnabled(false);
-  // Until the blocks can take the focus, a click anywhere in the window leaves the field.
-  setFocusPolicy(Qt::ClickFocus);
   txtOrder->setFocus();
 }
 
@@ -48,6 +46,13 @@ void frmTavimor::Form_Unload() {
   const QVector<Form*> forms = openForms();
   for (Form* form : forms) form->unload();
   QCoreApplication::quit();
+}
+
+// Until the blocks can take the focus, a click anywhere beside the controls leaves the field. Not by a focus policy: a
+// click on the menus would then be one, and be swallowed where the field refuses to be left.
+void frmTavimor::mousePressEvent(QMouseEvent* event) {
+  Form::mousePressEvent(event);
+  if (!fraSpecs->isEnabled()) setFocus();
 }
 
 void frmTavimor::connectCommands() {

@@ -53,6 +53,7 @@ class frmTavimor : public Form, private MainControls {
  private:
   void Form_Load();
   void Form_Unload() override;
+  void mousePressEvent(QMouseEvent* event) override;
   void connectCommands();
   void mnuAbout_Click();
   void cmdNextVar_Click();

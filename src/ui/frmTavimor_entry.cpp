@@ -86,7 +86,6 @@ void frmTavimor::namesGiven() {
   fraSpecs->setEnabled(true);
   cmdEditFun->setEnabled(true);
   cmdCompute->setEnabled(true);
-  setFocusPolicy(Qt::NoFocus);
 }
 
 void frmTavimor::txtTerms_GotFocus(Long k) { model_.OldDegree = ValLong(textOf(blocks.at(k).txtTerms)); }

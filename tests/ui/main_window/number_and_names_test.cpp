@@ -1,5 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <QMenu>
+#include <QMenuBar>
+
 #include "ui/support/main_window_test.h"
 
 namespace tavimor {
@@ -76,6 +79,26 @@ TEST_F(Number, AClickOnAnythingLeavesIt) {
   QTest::mouseClick(&box("txtLL(0)"), Qt::LeftButton);
   EXPECT_EQ(focusName(), "txtVarNams");
   EXPECT_FALSE(box("txtOrder").isEnabled());
+}
+
+TEST_F(Number, AClickOnTheMenusDoesNotLeaveIt) {
+  auto* menuBar = window->findChild<QMenuBar*>();
+  QAction& file = item("mnuFile");
+  QTest::mouseClick(menuBar, Qt::LeftButton, {}, menuBar->actionGeometry(&file).center());
+  EXPECT_TRUE(file.menu()->isVisible());
+  QTest::keyClick(file.menu(), Qt::Key_Escape);
+  EXPECT_FALSE(file.menu()->isVisible());
+  press(Qt::Key_Escape);
+  EXPECT_EQ(focusName(), "txtOrder");
+}
+
+TEST_F(Number, AClickBesideTheFieldsLeavesItUnlessItIsRefused) {
+  const auto clickBeside = [this] { QTest::mouseClick(window, Qt::LeftButton, {}, QPoint(3, window->height() - 3)); };
+  clickBeside();
+  EXPECT_EQ(focusName(), "txtOrder");
+  type("2");
+  clickBeside();
+  EXPECT_EQ(focusName(), "txtVarNams");
 }
 
 TEST_F(Number, ShiftTabAndTheListLeaveItForTheNamesToo) {
