@@ -1,10 +1,13 @@
 #include "ui/controls/common_dialog.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 
 #include "runtime/file_pair.h"
+#include "ui/controls/help_file.h"
+#include "ui/controls/help_viewer.h"
 #include "ui/controls/message_box.h"
 
 namespace tavimor {
@@ -48,6 +51,17 @@ DialogEnd CommonDialog::ShowSave() {
   } while (!mayReplacePair(chosen));
   FileName = chosen;
   return DialogEnd::Confirmed;
+}
+
+void CommonDialog::ShowHelp(const std::string& page) const {
+  if (HelpCommand != kHelpForceFile) return;
+  const QString wanted = QString::fromStdString(HelpFile);
+  const QString found = findHelpFile(wanted);
+  if (found.isEmpty())
+    showWarning(QStringLiteral("The help file is missing. Looked for:\n\n%1\n%2")
+                    .arg(QDir::toNativeSeparators(wanted), QDir::toNativeSeparators(installedHelpFile(wanted))));
+  else
+    HelpViewer::showFile(found, QString::fromStdString(page));
 }
 
 bool mayReplacePair(const std::string& path) {

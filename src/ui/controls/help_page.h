@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QTextBrowser>
+
+namespace tavimor {
+
+/// Shows the text of a help file, an HTML document in UTF-8: black on white on every desktop, in lines that are never
+/// longer than one reads with ease. Links lead within the text, or to the web browser.
+class HelpPage : public QTextBrowser {
+  Q_OBJECT
+
+ public:
+  explicit HelpPage(const QString& name);
+
+  /// Where the first line in view begins in the text.
+  int topPosition() const;
+
+  bool isInView(const QTextCursor& cursor) const;
+
+  /// Moves the caret from the link that led here to the page that it led to: a search goes on from there, and Forward
+  /// finds the page again rather than the link.
+  void moveCaret(int position);
+
+  void resetZoom();
+
+  QVariant loadResource(int type, const QUrl& name) override;
+
+ protected:
+  void doSetSource(const QUrl& name, QTextDocument::ResourceType type) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void changeEvent(QEvent* event) override;
+
+ private:
+  void limitLineWidth();
+  void layOutToTheEnd();
+  void scrollTo(int position);
+};
+
+}  // namespace tavimor
