@@ -8,6 +8,7 @@
 #include "script/ScriptHost.h"
 #include "ui/controls/common_dialog.h"
 #include "ui/controls/form.h"
+#include "ui/controls/help_key.h"
 #include "ui/frmTavimor_controls.h"
 
 namespace tavimor {
@@ -103,6 +104,10 @@ class frmTavimor : public Form, private MainControls {
   void giveDefaultValues(Long v);
   std::optional<PerVariable<Long>> askForStartingSet();
 
+  // Help
+  void mnuHelp_Click();
+  void showHelp(const QString& page);
+
   // Script engine and evaluations
   void setUpScript();
   void ScriptControl1_Error();
@@ -113,6 +118,7 @@ class frmTavimor : public Form, private MainControls {
   QPointer<frmEvaluations> evaluations_;
   QPointer<frmVars> valuesWindow_;
   CommonDialog cdbFile;
+  HelpKey helpKey_{[this](const QString& form) { showHelp(form); }};
   std::string unreadableFile_;  // a file of the user's that could not be opened: never replaced unasked
 };
 
