@@ -39,6 +39,8 @@ picture() {
 "$cli" fit examples/sound-speed --output "$work/sound-speed" >/dev/null
 start "$work/sound-speed"
 picture main-window '^Tavimor$'
+keys F1
+picture help-window '^Tavimor Help$'
 stop
 
 # The tour of the README.
