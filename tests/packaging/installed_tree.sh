@@ -63,5 +63,5 @@ done
 echo "-- the completions"
 "$here/completions.sh" "$share" "$examples"
 
-echo "-- the window opens"
+echo "-- the window opens and shows the installed manual"
 "$source_folder/packaging/with_display.sh" 1024x768 "$here/window.sh" "$prefix/bin/tavimor"

@@ -1,5 +1,6 @@
 #!/bin/bash
-# Starts the installed program on the display of $DISPLAY, waits for its window and ends it.
+# Starts the installed program on the display of $DISPLAY in a folder without a manual, has it show the installed one
+# and ends it.
 # Usage: window.sh TAVIMOR.
 set -euo pipefail
 source "$(dirname "$0")/checks.sh"
@@ -10,6 +11,10 @@ HOME=$folder "$1" &
 pid=$!
 trap 'kill "$pid" 2>/dev/null || true; rm -rf "$folder"' EXIT
 
+isOpen() { xdotool search --onlyvisible --name "$1" >/dev/null; }
+waitFor isOpen '^Tavimor$'
 focus '^Tavimor$'
+showsManual() { keys F1 && isOpen '^Tavimor Help$'; }
+waitFor showsManual
 kill -TERM "$pid"
 wait "$pid" || fail "the program ended with exit code $?"
