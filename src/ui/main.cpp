@@ -13,6 +13,8 @@ namespace {
 
 using namespace tavimor;
 
+constexpr int kWrongUsage = 2;  // as of tavimor-cli
+
 struct Arguments {
   std::string problem;
   std::optional<int> exitCode;  // the command line asks for text only, or is wrong
@@ -27,7 +29,7 @@ Arguments parse(int argc, char** argv) {
   try {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& error) {
-    arguments.exitCode = app.exit(error);
+    arguments.exitCode = app.exit(error) == 0 ? 0 : kWrongUsage;
   }
   return arguments;
 }

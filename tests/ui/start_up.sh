@@ -48,6 +48,12 @@ focus '^Decimal Comma Warning!$'
 keys Tab Tab space # Cancel
 endsWith 0
 
+# What the program does not understand it says before anything else.
+"$tavimor" --no-such-option 2>usage &
+pid=$!
+endsWith 2
+grep -q -- --no-such-option usage || fail "the wrong option is not named"
+
 # Yes goes on; every number that is read, shown and written has a point.
 printf ' 0 \r\n"x",-1,1.5,1.25,#TRUE#,.25,1\r\n#FALSE#\r\n' >problem
 printf ' 0 \r\n 2 \r\n#TRUE#\r\n-1 \r\n .25 \r\n 1.5 \r\n-.5 \r\n .75 \r\n 2 \r\n' >problem.dat
