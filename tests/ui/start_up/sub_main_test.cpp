@@ -6,7 +6,6 @@
 #include <QMessageBox>
 #include <QPointer>
 #include <QTest>
-#include <QTimer>
 
 #include "platform/locale.h"
 #include "support/user_locale.h"
@@ -123,7 +122,7 @@ TEST_F(Start, TheEndOfTheSessionBringsItBackToo) {
   ReadDecimalSeparator();
   SetDecimalPoint();
   (new frmTavimor(model))->show();
-  QTimer::singleShot(0, qApp, [] { QCoreApplication::quit(); });
+  QMetaObject::invokeMethod(qApp, &QCoreApplication::quit, Qt::QueuedConnection);
   EXPECT_EQ(QApplication::exec(), 0);
   EXPECT_TRUE(Form::openForms().isEmpty());
   EXPECT_EQ(separator(), ",");
