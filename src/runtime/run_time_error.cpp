@@ -32,6 +32,7 @@ const char* description(ErrorNumber number) {
     case ErrorNumber::PermissionDenied: return "Permission denied";
     case ErrorNumber::PathFileAccess: return "Path/File access error";
     case ErrorNumber::PathNotFound: return "Path not found";
+    case ErrorNumber::PrinterError: return "Printer error";
     case ErrorNumber::ScriptReported: return "A script error has been reported";
   }
   return "Application-defined or object-defined error";

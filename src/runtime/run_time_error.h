@@ -21,13 +21,14 @@ enum class ErrorNumber {
   PermissionDenied = 70,
   PathFileAccess = 75,
   PathNotFound = 76,
+  PrinterError = 482,
   ScriptReported = -2147352319,  // 0x80020101
 };
 
 /// The text that goes with a number, for instance "Subscript out of range" with 9.
 const char* description(ErrorNumber number);
 
-/// A run-time error: its number, its description and, for an error of a file, the path.
+/// A run-time error: its number, its description and, for an error of a file or a printer, its path or name.
 class RunTimeError : public std::exception {
  public:
   explicit RunTimeError(ErrorNumber number, std::string path = {});

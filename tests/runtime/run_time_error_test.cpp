@@ -26,6 +26,7 @@ TEST(RunTimeError, ReportsItsNumberAndDescription) {
   EXPECT_EQ(report(70), "Run-time error '70': Permission denied");
   EXPECT_EQ(report(75), "Run-time error '75': Path/File access error");
   EXPECT_EQ(report(76), "Run-time error '76': Path not found");
+  EXPECT_EQ(report(482), "Run-time error '482': Printer error");
 }
 
 TEST(RunTimeError, AScriptReportsUnderItsOwnNumber) {
