@@ -2,6 +2,8 @@
 
 #include <string>
 
+class QPrinter;
+
 namespace tavimor {
 
 enum class DialogEnd { Confirmed, Cancelled };
@@ -9,7 +11,8 @@ enum class DialogEnd { Confirmed, Cancelled };
 /// The value of HelpCommand that opens the help file and brings it into view.
 inline constexpr int kHelpForceFile = 9;
 
-/// The dialogs in which the user names a problem's file. No filter, no default extension. And the help window.
+/// The dialogs in which the user names a problem's file (no filter, no default extension) and chooses a printer, and
+/// the help window.
 ///
 /// FileName is what the dialogs begin with and what they leave; calling one off leaves it as it was, so that a name
 /// once given is there again after a later dialog that was called off.
@@ -28,6 +31,9 @@ class CommonDialog {
   /// Shows HelpFile in the help window, at the page with this anchor or from the beginning; in the place of a file that
   /// is not there the installed one of that name. Where there is neither, a message says what was looked for.
   void ShowHelp(const std::string& page = {}) const;
+
+  /// Printer or PDF file, paper, copies and pages. A call that is called off leaves the printer as it was.
+  DialogEnd ShowPrinter(QPrinter& printer);
 };
 
 /// Whether the pair of this path may be written as far as the user is concerned: asks where one of the files exists.

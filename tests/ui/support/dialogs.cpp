@@ -4,6 +4,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QComboBox>
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QTest>
@@ -19,6 +20,15 @@ QLineEdit* lineOf(QDialog& dialog) {
   if (qobject_cast<QFileDialog*>(&dialog) != nullptr)
     return dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
   return dialog.findChild<QLineEdit*>();
+}
+
+void typeAndEnter(QLineEdit* line, const QString& text, const std::function<void()>& beforeEnter) {
+  ASSERT_NE(line, nullptr);
+  line->setCompleter(nullptr);  // its list takes the activation where there is no window manager
+  line->selectAll();
+  QTest::keyClicks(line, text);
+  if (beforeEnter) beforeEnter();
+  QTest::keyClick(line, Qt::Key_Return);
 }
 
 QString textOf(const QDialog& dialog) {
@@ -39,14 +49,16 @@ Dialogs::Dialogs() { lookAgain(); }
 Dialogs::~Dialogs() { EXPECT_TRUE(replies_.empty()) << replies_.size() << " expected dialog(s) did not come"; }
 
 void Dialogs::expectAndType(const QString& text, const std::function<void()>& beforeEnter) {
-  expect([text, beforeEnter](QDialog& dialog) {
-    QLineEdit* line = lineOf(dialog);
-    ASSERT_NE(line, nullptr);
-    line->setCompleter(nullptr);  // its list takes the activation where there is no window manager
-    line->selectAll();
-    QTest::keyClicks(line, text);
-    if (beforeEnter) beforeEnter();
-    QTest::keyClick(line, Qt::Key_Return);
+  expect([text, beforeEnter](QDialog& dialog) { typeAndEnter(lineOf(dialog), text, beforeEnter); });
+}
+
+// The file is the last entry of the list of printers.
+void Dialogs::expectAndPrintTo(const QString& path, const std::function<void()>& beforeEnter) {
+  expect([path, beforeEnter](QDialog& dialog) {
+    auto* printers = dialog.findChild<QComboBox*>(QStringLiteral("printers"));
+    ASSERT_NE(printers, nullptr) << dialog.windowTitle().toStdString();
+    QTest::keyClick(printers, Qt::Key_End);
+    typeAndEnter(dialog.findChild<QLineEdit*>(QStringLiteral("filename")), path, beforeEnter);
   });
 }
 

@@ -25,6 +25,9 @@ class Dialogs : public QObject {
   /// Types a text into the dialog's line and presses Enter; an input box or a file dialog.
   void expectAndType(const QString& text, const std::function<void()>& beforeEnter = {});
 
+  /// Chooses a PDF file in the print dialog, types its path and presses Enter.
+  void expectAndPrintTo(const QString& path, const std::function<void()>& beforeEnter = {});
+
   /// Presses Escape.
   void expectAndCancel();
 

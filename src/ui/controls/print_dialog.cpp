@@ -1,0 +1,53 @@
+#include <QApplication>
+#include <QPrintDialog>
+#include <QPrinter>
+
+#include "ui/controls/common_dialog.h"
+
+namespace tavimor {
+
+namespace {
+
+/// Where a printer prints to. A print dialog sets it already while it is made and while the user looks around.
+class PrintTarget {
+ public:
+  explicit PrintTarget(QPrinter& printer)
+      : printer_(printer),
+        format_(printer.outputFormat()),
+        name_(printer.printerName()),
+        file_(printer.outputFileName()),
+        layout_(printer.pageLayout()) {}
+
+  void putBack() {
+    if (format_ == QPrinter::PdfFormat) {
+      printer_.setOutputFormat(format_);
+      printer_.setOutputFileName(file_);
+    } else {
+      printer_.setPrinterName(name_);
+    }
+    printer_.setPageLayout(layout_);
+  }
+
+ private:
+  QPrinter& printer_;
+  QPrinter::OutputFormat format_;
+  QString name_;
+  QString file_;
+  QPageLayout layout_;
+};
+
+}  // namespace
+
+DialogEnd CommonDialog::ShowPrinter(QPrinter& printer) {
+  printer.setPageRanges({});
+  printer.setPrintRange(QPrinter::AllPages);
+  printer.setCopyCount(1);
+  PrintTarget before(printer);
+  QPrintDialog dialog(&printer, QApplication::activeWindow());
+  before.putBack();
+  if (dialog.exec() == QDialog::Accepted) return DialogEnd::Confirmed;
+  before.putBack();
+  return DialogEnd::Cancelled;
+}
+
+}  // namespace tavimor
