@@ -59,6 +59,7 @@ void frmTavimor::connectCommands() {
   connect(mnuOpen, &QAction::triggered, this, &frmTavimor::mnuOpen_Click);
   connect(mnuSave, &QAction::triggered, this, &frmTavimor::mnuSave_Click);
   connect(mnuSaveAs, &QAction::triggered, this, &frmTavimor::mnuSaveAs_Click);
+  connect(mnuPrint, &QAction::triggered, this, &frmTavimor::mnuPrint_Click);
   connect(mnuHelp, &QAction::triggered, this, &frmTavimor::mnuHelp_Click);
   connect(mnuAbout, &QAction::triggered, this, &frmTavimor::mnuAbout_Click);
   connect(cmdNextVar, &QPushButton::clicked, this, &frmTavimor::cmdNextVar_Click);

@@ -9,6 +9,7 @@
 #include "ui/controls/common_dialog.h"
 #include "ui/controls/form.h"
 #include "ui/controls/help_key.h"
+#include "ui/controls/printer.h"
 #include "ui/frmTavimor_controls.h"
 
 namespace tavimor {
@@ -49,7 +50,8 @@ class frmTavimor : public Form, private MainControls {
   void numberOfValuesChanged(Long v);
 
   ScriptHost ScriptControl1;
-  Long ierr = 0;  // the last run-time error that a function of the script object met
+  Printer printer;  // one for the whole run: the next report begins with the printer and the paper of the last one
+  Long ierr = 0;    // the last run-time error that a function of the script object met
 
  private:
   void Form_Load();
@@ -80,6 +82,7 @@ class frmTavimor : public Form, private MainControls {
   void mnuOpen_Click();
   void mnuSave_Click();
   void mnuSaveAs_Click();
+  void mnuPrint_Click();
   void takeSaveName();
   void saveIfNamed();
   void SaveProblem();
