@@ -139,6 +139,12 @@ TEST(ReportLines, TheFunctionOverlaysALongNameFromColumn40) {
   EXPECT_EQ(line, "   " + std::string(36, 'n') + "FUNCTION=0" + std::string(45 + 70 - 49, ' '));
 }
 
+TEST(ReportLines, TheFunctionReplacesWhatALongNameLeavesOfTheValue) {
+  Dimension model = problem({{std::string(31, 'n'), {12.25}, 0, 0}});
+  const std::string line = dataOf(model)[3];
+  EXPECT_EQ(line, "   " + std::string(31, 'n') + "=12.2FUNCTION=0" + std::string(40 + 70 - 49, ' '));
+}
+
 TEST(ReportLines, ColumnsCountCharactersNotBytes) {
   Dimension model = problem({{"größe", {1}, 0, 0}});
   const std::string line = dataOf(model)[3];
