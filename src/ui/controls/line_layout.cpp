@@ -16,10 +16,10 @@ QString withoutTrailingBlanks(const QString& line) {
   return line.left(length);
 }
 
-QString withoutLeadingBlanks(const QString& line) {
-  qsizetype start = 0;
-  while (start < line.size() && line[start] == kBlank) ++start;
-  return line.mid(start);
+qsizetype leadingBlanks(const QString& line) {
+  qsizetype count = 0;
+  while (count < line.size() && line[count] == kBlank) ++count;
+  return count;
 }
 
 // A column is one character, which can be two units of the string.
@@ -41,7 +41,12 @@ QList<qsizetype> characterEnds(const QString& line) {
   return ends;
 }
 
-bool mayBreakBefore(const QString& line, qsizetype at) { return line[at] == u'*' || line[at - 1] == kBlank; }
+// The best place to break a line behind `least` units and before or at `most`.
+qsizetype breakBetween(const QString& line, qsizetype least, qsizetype most) {
+  if (const qsizetype factor = line.lastIndexOf(u'*', most); factor > least) return factor;
+  if (const qsizetype blank = line.lastIndexOf(kBlank, most - 1); blank >= least) return blank + 1;
+  return most;
+}
 
 }  // namespace
 
@@ -81,22 +86,20 @@ QStringList LineLayout::wrapped(const QString& line) const {
     const qsizetype length = lengthThatFits(rest);
     if (length == rest.size()) break;
     lines << withoutTrailingBlanks(rest.left(length));
-    rest = QString(kContinuationIndent, kBlank) + withoutLeadingBlanks(rest.mid(length));
+    const QString remaining = rest.mid(length);
+    rest = QString(kContinuationIndent, kBlank) + remaining.mid(leadingBlanks(remaining));
   }
   return lines << rest;
 }
 
-// At least one character beyond the indent, however narrow the device: otherwise the rest would never become shorter.
+// At least one character that can be seen, however narrow the device: otherwise the rest would never become shorter.
 qsizetype LineLayout::lengthThatFits(const QString& line) const {
+  const qsizetype least = std::max<qsizetype>(kTermIndent, leadingBlanks(line));
   const QList<qsizetype> ends = characterEnds(line);
-  const auto firstBeyond = std::upper_bound(ends.begin(), ends.end(), qsizetype{kContinuationIndent});
-  if (firstBeyond == ends.end()) return line.size();
-  const auto tooFar =
-      std::partition_point(firstBeyond, ends.end(), [&](qsizetype end) { return fits(line.left(end)); });
-  const qsizetype most = tooFar == firstBeyond ? *firstBeyond : *(tooFar - 1);
-  for (qsizetype at = most; at > kContinuationIndent; --at)
-    if (at < line.size() && mayBreakBefore(line, at)) return at;
-  return most;
+  const auto first = std::upper_bound(ends.begin(), ends.end(), least);
+  if (first == ends.end()) return line.size();
+  const auto tooFar = std::partition_point(first, ends.end(), [&](qsizetype end) { return fits(line.left(end)); });
+  return breakBetween(line, least, tooFar == first ? *first : *(tooFar - 1));
 }
 
 }  // namespace tavimor

@@ -19,12 +19,13 @@ struct TextRun {
 /// The text after two or more blanks begins in its own column. So letters that the font lacks, which come from another
 /// font and can be wider, move nothing but what stands directly behind them.
 ///
-/// A line that is wider than the device goes on in further ones, indented to the column where terms begin, so that
-/// the column of the coefficients holds nothing else. It is broken before a "*" or after a blank where one stands in
-/// that part of the line, in the middle of a word otherwise; no visible character is lost.
+/// A line that is wider than the device goes on in further ones, which begin two columns right of where terms begin:
+/// the column of the coefficients holds nothing else. It is broken before the last "*" of a term that fits, where there
+/// is none after a blank, and otherwise in the middle of a word; no visible character is lost.
 class LineLayout {
  public:
-  static constexpr int kContinuationIndent = 24;  // columns
+  static constexpr int kTermIndent = 24;  // columns
+  static constexpr int kContinuationIndent = kTermIndent + 2;
 
   LineLayout(const QFont& font, QPaintDevice& device);
 

@@ -13,6 +13,7 @@
 
 #ifdef Q_OS_UNIX
 #include <sys/resource.h>
+#include <sys/stat.h>
 
 #include <csignal>
 #endif
@@ -26,12 +27,11 @@ namespace tavimor {
 namespace {
 
 using test::expectError;
-using testing::Each;
 using testing::ElementsAre;
 using testing::StartsWith;
 using Lines = std::vector<std::string>;
 
-const std::string kIndent(24, ' ');
+const std::string kIndent(26, ' ');
 
 std::string withoutBlanks(std::string text) {
   std::erase(text, ' ');
@@ -184,12 +184,18 @@ TEST_F(PrinterTest, WrapsALongTermBelowItsBeginning) {
   EXPECT_EQ(rows.back(), "next");
 }
 
+TEST_F(PrinterTest, WrapsBetweenFactorsRatherThanInANameWithBlanks) {
+  const std::string coefficient = "2                       ", factor = "*(temperature of the inlet air-0.5)";
+  EXPECT_EQ(printed({coefficient + factor + factor, coefficient + "*x" + factor + factor}).lines(),
+            (Lines{coefficient + factor, kIndent + factor, coefficient + "*x" + factor, kIndent + factor}));
+}
+
 TEST_F(PrinterTest, WrapsAfterABlankOrInTheMiddleOfAWord) {
   const std::string start = "           VARIABLE: ";
   const std::string word(50, 'a'), endless(120, 'b');
   EXPECT_EQ(printed({start + word + ' ' + word, start + endless}).lines(),
-            (Lines{start + word, kIndent + word, start + endless.substr(0, 59), kIndent + endless.substr(0, 56),
-                   kIndent + endless.substr(0, 5)}));
+            (Lines{start + word, kIndent + word, start + endless.substr(0, 59), kIndent + endless.substr(0, 54),
+                   kIndent + endless.substr(0, 7)}));
 }
 
 TEST_F(PrinterTest, LosesNoVisibleCharacterOfAnyLine) {
@@ -277,11 +283,11 @@ TEST_F(PrinterTest, NeverWritesOverAFolder) {
 
 #ifdef Q_OS_UNIX
 
-TEST_F(PrinterTest, NeverReplacesADeviceOfTheSystem) {
-  printer.device().setOutputFileName("/dev/null");
+TEST_F(PrinterTest, NeverReplacesWhatIsNoFile) {
+  ASSERT_EQ(mkfifo(path.toLocal8Bit(), S_IRUSR | S_IWUSR), 0);
   printer.Print("line");
   expectError(ErrorNumber::PrinterError, [&] { printer.EndDoc(); });
-  EXPECT_FALSE(QFileInfo("/dev/null").isFile());
+  EXPECT_FALSE(QFileInfo(path).isFile());
 }
 
 // While it lives no file can become longer than this many bytes.

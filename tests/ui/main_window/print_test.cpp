@@ -92,7 +92,7 @@ TEST_F(Print, IsInTheFileMenu) {
 }
 
 TEST_F(Print, ContinuesALongTermBelowItsBeginning) {
-  const std::string first(40, 'n'), second(40, 'm'), indent(24, ' ');
+  const std::string first(40, 'n'), second(40, 'm'), indent(26, ' ');
   openProblem(problemOf({{first, {1, 2, 3}, 1, 1.5}, {second, {1, 2}, 1, -2}}));
   click("cmdCompute");
   printToFile();
