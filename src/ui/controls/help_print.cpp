@@ -1,16 +1,16 @@
 #include "ui/controls/help_print.h"
 
-#include <QPrintDialog>
 #include <QPrinter>
 #include <memory>
 
+#include "ui/controls/common_dialog.h"
+
 namespace tavimor {
 
-void printHelp(const QTextDocument& document, QWidget& parent) {
+void printHelp(const QTextDocument& document, const QString& title) {
   QPrinter printer(QPrinter::HighResolution);
-  printer.setDocName(parent.windowTitle());
-  QPrintDialog dialog(&printer, &parent);
-  if (dialog.exec() != QDialog::Accepted) return;
+  printer.setDocName(title);
+  if (CommonDialog().ShowPrinter(printer) == DialogEnd::Cancelled) return;
 
   constexpr double kPointsOnPaper = 10;
   const std::unique_ptr<QTextDocument> copy(document.clone());

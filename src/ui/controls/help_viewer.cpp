@@ -125,6 +125,6 @@ void HelpViewer::cmdContents_Click() {
   tvwContents->setFocus();
 }
 
-void HelpViewer::cmdPrint_Click() { printHelp(*txtPage->document(), *this); }
+void HelpViewer::cmdPrint_Click() { printHelp(*txtPage->document(), windowTitle()); }
 
 }  // namespace tavimor

@@ -1,7 +1,5 @@
 #include "ui/controls/help_print.h"
 
-#include <QComboBox>
-#include <QPrintDialog>
 #include <QProcess>
 
 #include "ui/support/help_viewer_test.h"
@@ -11,18 +9,6 @@ namespace {
 
 class HelpPrinting : public HelpViewerTest {
  protected:
-  /// Chooses printing into a PDF file, and this file, in the print dialog.
-  void expectPrintInto(const QString& pdf) {
-    dialogs.expect([pdf](QDialog& dialog) {
-      ASSERT_NE(qobject_cast<QPrintDialog*>(&dialog), nullptr);
-      QTest::keyClick(dialog.findChild<QComboBox*>("printers"), Qt::Key_End);
-      auto* file = dialog.findChild<QLineEdit*>("filename");
-      file->selectAll();
-      QTest::keyClicks(file, pdf);
-      QTest::keyClick(file, Qt::Key_Return);
-    });
-  }
-
   static QString textOf(const QString& pdf) {
     QProcess reader;
     reader.start("pdftotext", {"-layout", pdf, "-"});
@@ -34,7 +20,7 @@ class HelpPrinting : public HelpViewerTest {
 TEST_F(HelpPrinting, PrintPutsTheWholeTextOnPaper) {
   show("second");
   const QString pdf = folder.filePath("help.pdf");
-  expectPrintInto(pdf);
+  dialogs.expectAndPrintTo(pdf);
   click("cmdPrint");
   const QString text = textOf(pdf);
   for (const char* expected : {"Beginning", "apple 0", "apple 59", "A section", "plum 59", "A short one, \xC2\xB5"})
@@ -48,7 +34,7 @@ TEST_F(HelpPrinting, TheTextHasTheSamePagesOnPaperHoweverItIsZoomed) {
   for (const int zooms : {0, 8}) {
     for (int n = 0; n < zooms; ++n) press(Qt::Key_Plus, Qt::ControlModifier);
     const QString pdf = folder.filePath(QString("%1.pdf").arg(zooms));
-    expectPrintInto(pdf);
+    dialogs.expectAndPrintTo(pdf);
     press(Qt::Key_P, Qt::ControlModifier);
     printed << textOf(pdf);
     viewer->activateWindow();
