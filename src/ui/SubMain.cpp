@@ -41,12 +41,6 @@ bool setSeparator(const std::string& text) {
   return SetLocaleInfo(GetUserDefaultLCID(), LocaleItem::DecimalSeparator, text);
 }
 
-frmAbout* openAbout() {
-  for (Form* form : Form::openForms())
-    if (auto* about = qobject_cast<frmAbout*>(form)) return about;
-  return nullptr;
-}
-
 // The window system shows a window in its own time.
 void dispatchUntilShown(const QWidget& window) {
   constexpr int kPatience = 1000;  // milliseconds
@@ -92,7 +86,7 @@ StartUp DecimalPoint() {
 }
 
 frmAbout& ShowAbout() {
-  if (frmAbout* shown = openAbout()) {
+  if (auto* shown = Form::openForm<frmAbout>()) {
     shown->raise();
     shown->activateWindow();
     return *shown;

@@ -37,6 +37,14 @@ class Form : public QWidget {
   /// The forms that are loaded, shown or hidden, in the order in which they were made.
   static const QVector<Form*>& openForms();
 
+  /// The first of them that is of this class; null where there is none.
+  template <class T>
+  static T* openForm() {
+    for (Form* form : openForms())
+      if (auto* found = qobject_cast<T*>(form)) return found;
+    return nullptr;
+  }
+
   /// False from the beginning of its unloading on.
   bool isOpen() const { return openForms().contains(const_cast<Form*>(this)); }
 

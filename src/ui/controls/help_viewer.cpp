@@ -14,18 +14,8 @@
 
 namespace tavimor {
 
-namespace {
-
-HelpViewer* openViewer() {
-  for (Form* form : Form::openForms())
-    if (auto* viewer = qobject_cast<HelpViewer*>(form)) return viewer;
-  return nullptr;
-}
-
-}  // namespace
-
 void HelpViewer::showFile(const QString& path, const QString& page) {
-  HelpViewer* viewer = openViewer();
+  auto* viewer = openForm<HelpViewer>();
   if (viewer == nullptr) viewer = new HelpViewer;
   viewer->setWindowState(viewer->windowState() & ~Qt::WindowMinimized);
   viewer->show();

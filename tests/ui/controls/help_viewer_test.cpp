@@ -189,7 +189,7 @@ TEST_F(HelpWindow, EscapeClosesItWhateverHasTheFocus) {
     show();
     find<QWidget>(control).setFocus();
     press(Qt::Key_Escape);
-    EXPECT_EQ(openHelp(), nullptr) << control;
+    EXPECT_EQ(Form::openForm<HelpViewer>(), nullptr) << control;
   }
 }
 
@@ -242,7 +242,7 @@ class HelpFiles : public HelpViewerTest {
     dialog.HelpCommand = kHelpForceFile;
     dialog.HelpFile = file.toStdString();
     dialog.ShowHelp(page);
-    viewer = openHelp();
+    viewer = Form::openForm<HelpViewer>();
   }
 
   CommonDialog dialog;
@@ -258,7 +258,7 @@ TEST_F(HelpFiles, TheDialogShowsTheFileAtThePage) {
 TEST_F(HelpFiles, WithoutTheCommandNothingIsShown) {
   dialog.HelpFile = path.toStdString();
   dialog.ShowHelp();
-  EXPECT_EQ(openHelp(), nullptr);
+  EXPECT_EQ(Form::openForm<HelpViewer>(), nullptr);
 }
 
 TEST_F(HelpFiles, AFileThatIsMissingIsReplacedByTheInstalledOne) {

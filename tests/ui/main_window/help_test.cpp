@@ -35,8 +35,8 @@ class Help : public MainWindowTest {
   }
 
   static HelpViewer& help() {
-    if (openHelp() == nullptr) throw std::runtime_error("no help window");
-    return *openHelp();
+    if (Form::openForm<HelpViewer>() == nullptr) throw std::runtime_error("no help window");
+    return *Form::openForm<HelpViewer>();
   }
 
   static QUrl source() { return help().findChild<QTextBrowser*>("txtPage")->source(); }
@@ -124,21 +124,21 @@ TEST_F(Help, F1InTheMainWindowWorksWhileItIsDisabled) {
 
 TEST_F(Help, F1InTheHelpWindowDoesNothing) {
   EXPECT_EQ(pageAfterF1(), "frmTavimor");
-  const HelpViewer* first = openHelp();
+  const HelpViewer* first = Form::openForm<HelpViewer>();
   EXPECT_EQ(pageAfterF1(), "frmTavimor");
-  EXPECT_EQ(openHelp(), first);
+  EXPECT_EQ(Form::openForm<HelpViewer>(), first);
 }
 
 TEST_F(Help, F1WithAnotherKeyHeldDoesNothing) {
   press(Qt::Key_F1, Qt::ControlModifier);
-  EXPECT_EQ(openHelp(), nullptr);
+  EXPECT_EQ(Form::openForm<HelpViewer>(), nullptr);
 }
 
 TEST_F(Help, F1InADialogDoesNothing) {
   open("two");
   dialogs.expect([](QDialog& dialog) {
     QTest::keyClick(dialog.findChild<QLineEdit*>(), Qt::Key_F1);
-    EXPECT_EQ(openHelp(), nullptr);
+    EXPECT_EQ(Form::openForm<HelpViewer>(), nullptr);
     QTest::keyClick(&dialog, Qt::Key_Escape);
   });
   click("cmdEditFun");
@@ -167,11 +167,11 @@ TEST_F(Help, TheOtherWindowsAreUsedWhileTheHelpIsOpen) {
 TEST_F(Help, AnotherWindowsPageIsShownInTheSameWindow) {
   open("two");
   press(Qt::Key_F1);
-  const HelpViewer* first = openHelp();
+  const HelpViewer* first = Form::openForm<HelpViewer>();
   activate();
   editFunction();
   EXPECT_EQ(pageAfterF1(), "frmFun");
-  EXPECT_EQ(openHelp(), first);
+  EXPECT_EQ(Form::openForm<HelpViewer>(), first);
 }
 
 TEST_F(Help, ClosingTheMainWindowClosesIt) {

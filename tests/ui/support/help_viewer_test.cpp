@@ -5,12 +5,6 @@
 
 namespace tavimor {
 
-HelpViewer* openHelp() {
-  for (Form* form : Form::openForms())
-    if (auto* viewer = qobject_cast<HelpViewer*>(form)) return viewer;
-  return nullptr;
-}
-
 QByteArray longText(const QByteArray& word) {
   QByteArray text;
   for (int n = 0; n < 60; ++n) text += "<p>" + word + " " + QByteArray::number(n) + "</p>\n";
@@ -40,7 +34,7 @@ QString HelpViewerTest::write(const QString& name, const QByteArray& body) const
 
 void HelpViewerTest::show(const QString& anchor) {
   HelpViewer::showFile(path, anchor);
-  viewer = openHelp();
+  viewer = Form::openForm<HelpViewer>();
   ASSERT_NE(viewer, nullptr);
   ASSERT_TRUE(QTest::qWaitForWindowActive(viewer));
 }

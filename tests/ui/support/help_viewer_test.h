@@ -16,9 +16,6 @@
 
 namespace tavimor {
 
-/// The help window that is open, or nothing.
-HelpViewer* openHelp();
-
 /// Sixty paragraphs of this word and their number: several windows long.
 QByteArray longText(const QByteArray& word);
 

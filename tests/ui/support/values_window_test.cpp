@@ -14,8 +14,7 @@ ValuesWindowTest::ValuesWindowTest() {
 }
 
 frmVars& ValuesWindowTest::values() {
-  for (Form* form : Form::openForms())
-    if (auto* found = qobject_cast<frmVars*>(form); found != nullptr) return *found;
+  if (auto* found = Form::openForm<frmVars>()) return *found;
   throw std::runtime_error("the values window is not loaded");
 }
 
