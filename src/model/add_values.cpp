@@ -1,11 +1,11 @@
 #include "model/add_values.h"
 
 #include <cerrno>
-#include <filesystem>
 #include <optional>
 #include <utility>
 
 #include "model/var_values.h"
+#include "platform/files.h"
 #include "runtime/bad_file.h"
 #include "runtime/input_file.h"
 #include "runtime/output_file.h"
@@ -57,9 +57,7 @@ Table4 relaidTable(const Dimension& model, const PerVariable<Long>& newLast, Fil
 
 }  // namespace
 
-std::string workFilePath(const Dimension& model) {
-  return (std::filesystem::path(model.WorkDir) / "FUNCTION").string();
-}
+std::string workFilePath(const Dimension& model) { return utf8Path(nativePath(model.WorkDir) / "FUNCTION"); }
 
 void addValues(Dimension& model, Long v, FileSteps& steps) {
   if (model.AddCount[v] == 0) return;

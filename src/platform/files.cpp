@@ -2,8 +2,6 @@
 
 #ifdef _WIN32
 #include <io.h>
-
-#include <filesystem>
 #else
 #include <fcntl.h>
 #include <unistd.h>
@@ -24,10 +22,16 @@ std::FILE* openUnbuffered(std::FILE* file) {
 
 #ifdef _WIN32
 
+std::filesystem::path nativePath(const std::string& path) { return std::u8string(path.begin(), path.end()); }
+
+std::string utf8Path(const std::filesystem::path& path) {
+  const std::u8string text = path.u8string();
+  return std::string(text.begin(), text.end());
+}
+
 FileHandle openFile(const std::string& path, const char* mode) {
-  const std::filesystem::path name = std::filesystem::u8path(path);
   const std::wstring wideMode(mode, mode + std::string(mode).size());
-  return FileHandle(openUnbuffered(_wfopen(name.c_str(), wideMode.c_str())));
+  return FileHandle(openUnbuffered(_wfopen(nativePath(path).c_str(), wideMode.c_str())));
 }
 
 bool flushToDisk(std::FILE* file) { return std::fflush(file) == 0 && _commit(_fileno(file)) == 0; }
@@ -35,6 +39,10 @@ bool flushToDisk(std::FILE* file) { return std::fflush(file) == 0 && _commit(_fi
 bool flushFolderToDisk(const std::string&) { return true; }
 
 #else
+
+std::filesystem::path nativePath(const std::string& path) { return path; }
+
+std::string utf8Path(const std::filesystem::path& path) { return path.string(); }
 
 FileHandle openFile(const std::string& path, const char* mode) {
   return FileHandle(openUnbuffered(std::fopen(path.c_str(), mode)));

@@ -3,6 +3,7 @@
 #include <cerrno>
 #include <filesystem>
 
+#include "platform/files.h"
 #include "runtime/run_time_error.h"
 
 namespace tavimor {
@@ -17,7 +18,7 @@ std::string backName(const std::string& target) { return target + ".tavimor-back
 
 bool isFile(const std::string& path) {
   std::error_code ignored;
-  return fs::is_regular_file(path, ignored);
+  return fs::is_regular_file(nativePath(path), ignored);
 }
 
 bool valuesAreOnTheirWayBack(const PairPaths& pair) { return isFile(backName(pair.values)); }
@@ -29,13 +30,13 @@ bool newValuesAreInPlace(const PairPaths& pair) {
 // The file that a link leads to, which need not exist.
 std::string resolved(const std::string& path) {
   constexpr int mostLinks = 40;  // as many as Linux follows
-  fs::path target = path;
+  fs::path target = nativePath(path);
   std::error_code ignored;
   for (int links = 0; fs::is_symlink(target, ignored); ++links) {
     if (links == mostLinks) throw RunTimeError(ErrorNumber::PathFileAccess, path);
     target = target.parent_path() / fs::read_symlink(target, ignored);
   }
-  return target.string();
+  return utf8Path(target);
 }
 
 PairPaths resolved(const PairPaths& pair) { return {resolved(pair.specification), resolved(pair.values)}; }
@@ -43,25 +44,26 @@ PairPaths resolved(const PairPaths& pair) { return {resolved(pair.specification)
 // Replacing a file asks only for permission on its folder: a file that may not be written is refused here.
 void requireReplaceable(const std::string& path) {
   std::error_code ignored;
-  if (!fs::exists(path, ignored)) return;
+  if (!fs::exists(nativePath(path), ignored)) return;
   if (!isFile(path)) throw RunTimeError(ErrorNumber::PathFileAccess, path);
   if (!openFile(path, "r+b")) throw fileError(errno, path);
 }
 
 void requireTwoFiles(const PairPaths& pair) {
   std::error_code ignored;
-  if (pair.specification == pair.values || fs::equivalent(pair.specification, pair.values, ignored))
+  if (pair.specification == pair.values ||
+      fs::equivalent(nativePath(pair.specification), nativePath(pair.values), ignored))
     throw RunTimeError(ErrorNumber::FileAlreadyOpen, pair.values);
 }
 
 void copyPermissions(const std::string& from, const std::string& to) {
   std::error_code ignored;
-  const fs::file_status status = fs::status(from, ignored);
-  if (fs::exists(status)) fs::permissions(to, status.permissions(), ignored);
+  const fs::file_status status = fs::status(nativePath(from), ignored);
+  if (fs::exists(status)) fs::permissions(nativePath(to), status.permissions(), ignored);
 }
 
 std::string folderOf(const std::string& path) {
-  const std::string parent = fs::path(path).parent_path().string();
+  const std::string parent = utf8Path(nativePath(path).parent_path());
   return parent.empty() ? "." : parent;
 }
 
@@ -164,7 +166,7 @@ void FilePair::discard() {
 
 bool FilePair::removed(const std::string& path) {
   std::error_code ignored;
-  return !fs::exists(fs::symlink_status(path, ignored)) || steps_.remove(path);
+  return !fs::exists(fs::symlink_status(nativePath(path), ignored)) || steps_.remove(path);
 }
 
 void FilePair::remove(const std::string& path) {

@@ -27,26 +27,28 @@ bool FileSteps::close(FileHandle file) { return std::fclose(file.release()) == 0
 bool FileSteps::flushFolder(const std::string& folder) { return flushFolderToDisk(folder); }
 
 bool FileSteps::keepAs(const std::string& path, const std::string& secondName) {
+  const std::filesystem::path file = nativePath(path), second = nativePath(secondName);
   std::error_code error;
-  std::filesystem::remove(secondName, error);
-  std::filesystem::create_hard_link(path, secondName, error);
-  if (error) std::filesystem::copy_file(path, secondName, std::filesystem::copy_options::overwrite_existing, error);
+  std::filesystem::remove(second, error);
+  std::filesystem::create_hard_link(file, second, error);
+  if (error) std::filesystem::copy_file(file, second, std::filesystem::copy_options::overwrite_existing, error);
   return succeeded(error);
 }
 
 bool FileSteps::replace(const std::string& path, const std::string& target) {
   std::error_code error;
-  std::filesystem::rename(path, target, error);
+  std::filesystem::rename(nativePath(path), nativePath(target), error);
   return succeeded(error);
 }
 
 bool FileSteps::remove(const std::string& path) {
   std::error_code error;
-  if (std::filesystem::is_directory(path, error)) {
+  const std::filesystem::path file = nativePath(path);
+  if (std::filesystem::is_directory(file, error)) {
     errno = EISDIR;
     return false;
   }
-  std::filesystem::remove(path, error);
+  std::filesystem::remove(file, error);
   return succeeded(error);
 }
 

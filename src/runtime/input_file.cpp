@@ -25,11 +25,12 @@ constexpr const char* kTooLong = "a field that is too long";
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
 std::uint64_t regularFileSize(const std::string& path) {
+  const std::filesystem::path file = nativePath(path);
   std::error_code error;
-  const std::uint64_t size = std::filesystem::file_size(path, error);
+  const std::uint64_t size = std::filesystem::file_size(file, error);
   if (!error) return size;
   std::error_code ignored;
-  const bool isSomethingElse = std::filesystem::exists(path, ignored);
+  const bool isSomethingElse = std::filesystem::exists(file, ignored);
   throw fileError(isSomethingElse ? EISDIR : error.default_error_condition().value(), path);
 }
 

@@ -4,13 +4,15 @@
 #include <filesystem>
 #include <utility>
 
+#include "platform/files.h"
+
 namespace tavimor {
 
 namespace {
 
 bool folderIsMissing(const std::string& path) {
   std::error_code ignored;
-  const std::filesystem::path folder = std::filesystem::path(path).parent_path();
+  const std::filesystem::path folder = nativePath(path).parent_path();
   return !folder.empty() && !std::filesystem::is_directory(folder, ignored);
 }
 
