@@ -31,7 +31,7 @@ shown=$(milliseconds)
 shows '^Tavimor$' && fail "the main window is there beside the About window"
 focus '^Tavimor$'
 lasted=$(($(milliseconds) - shown))
-[ "$lasted" -ge 1900 ] && [ "$lasted" -le 4000 ] || fail "the About window stood for $lasted ms"
+[ "$lasted" -ge 1900 ] && [ "$lasted" -le 5000 ] || fail "the About window stood for $lasted ms"
 shows '^About Tavimor$' && fail "the About window is still there"
 shows '^Decimal Comma' && fail "a question came"
 endPolitely
