@@ -3,7 +3,7 @@ source_folder=$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd)
 export LC_ALL=C.UTF-8 # what other programs print is read here
 here=$source_folder/tests/packaging
 
-fail() { echo "FAILED: $*"; exit 1; }
+source "$source_folder/tests/support/checks.sh"
 
 # needed TOOL...: ends the test with 77, skipped, where one is not to be had.
 needed() {
@@ -18,14 +18,6 @@ expectEqual() {
 $2
 found:
 $3"
-}
-
-waitFor() {
-  for _ in $(seq 200); do
-    if "$@" 2>/dev/null; then return; fi
-    sleep 0.1
-  done
-  fail "waited in vain for: $*"
 }
 
 # manualPage FILE: its text, without the overstriking of bold letters.

@@ -10,12 +10,6 @@
 namespace tavimor {
 namespace {
 
-std::string separator() {
-  std::array<char, 16> text{};
-  GetLocaleInfo(GetUserDefaultLCID(), LocaleItem::DecimalSeparator, text);
-  return text.data();
-}
-
 bool setSeparator(const std::string& text) {
   return SetLocaleInfo(GetUserDefaultLCID(), LocaleItem::DecimalSeparator, text);
 }
@@ -26,18 +20,18 @@ class Locale : public testing::Test {
 };
 
 TEST_F(Locale, TheSeparatorIsThatOfTheFirstVariableThatIsSet) {
-  EXPECT_EQ(separator(), ".");
+  EXPECT_EQ(test::decimalSeparator(), ".");
   locale.set("LANG", test::kGermany);
-  EXPECT_EQ(separator(), ",");
+  EXPECT_EQ(test::decimalSeparator(), ",");
   locale.set("LC_NUMERIC", "C");
-  EXPECT_EQ(separator(), ".");
+  EXPECT_EQ(test::decimalSeparator(), ".");
   locale.set("LC_ALL", test::kGermany);
-  EXPECT_EQ(separator(), ",");
+  EXPECT_EQ(test::decimalSeparator(), ",");
 }
 
 TEST_F(Locale, OneThatIsNotInstalledCountsAsThePlainOne) {
   locale.set("LC_ALL", "xx_XX.UTF-8");
-  EXPECT_EQ(separator(), ".");
+  EXPECT_EQ(test::decimalSeparator(), ".");
 }
 
 TEST_F(Locale, AnEmptyBufferAsksForTheLengthWithItsNul) {
@@ -56,7 +50,7 @@ TEST_F(Locale, ThePointHoldsForWhatTheProgramStartsToo) {
   const auto decimalPointOfChild = [] { return test::runToEnd("/usr/bin/locale", {"decimal_point"}).out; };
   EXPECT_EQ(decimalPointOfChild(), ",\n");
   EXPECT_TRUE(setSeparator("."));
-  EXPECT_EQ(separator(), ".");
+  EXPECT_EQ(test::decimalSeparator(), ".");
   EXPECT_EQ(decimalPointOfChild(), ".\n");
   EXPECT_TRUE(setSeparator(","));
   EXPECT_EQ(decimalPointOfChild(), ",\n");

@@ -1,16 +1,23 @@
 #pragma once
 
-#include <gtest/gtest.h>
-
 #include <cstdlib>
 #include <map>
 #include <optional>
-#include <stdexcept>
 #include <string>
+
+#include "platform/locale.h"
 
 namespace tavimor::test {
 
 inline constexpr char kGermany[] = "de_DE.UTF-8";  // writes 0,5
+
+/// The user's decimal separator, as the program reads it.
+inline std::string decimalSeparator() {
+  std::string text(GetLocaleInfo(GetUserDefaultLCID(), LocaleItem::DecimalSeparator, {}), '\0');
+  GetLocaleInfo(GetUserDefaultLCID(), LocaleItem::DecimalSeparator, text);
+  text.pop_back();
+  return text;
+}
 
 /// The locale as the environment gives it to a program; what it was before is back at the end.
 class UserLocale {

@@ -28,10 +28,7 @@ grep -q '^ 4 ' typed.dat || fail "the number of values is not what was typed"
 # f = 2 + 3 (x-1) + 4 (x-1)^2 at x = -1, 0, 1, 2, 3; reopened, fitted by the button and saved.
 printf ' 0 \r\n 4 \r\n#TRUE#\r\n-1 \r\n 0 \r\n 1 \r\n 2 \r\n 3 \r\n 12 \r\n 3 \r\n 2 \r\n 9 \r\n 24 \r\n' >typed.dat
 start "$folder/typed"
-# Save is to be had, and writes the files anew, as soon as the problem is open.
-touch started
-isOpened() { keys ctrl+s; sleep 0.2; [ typed.dat -nt started ]; }
-waitFor isOpened
+waitUntilOpen typed
 # From the lower limit, which has the focus, to Compute; the number of values is passed over, since it is fixed.
 keys Tab Tab Tab Tab Tab Tab Tab Tab Tab Tab space
 keys ctrl+s

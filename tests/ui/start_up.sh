@@ -62,9 +62,7 @@ cp problem.dat problem.dat.before
 begin "$comma" "$folder/problem"
 answer alt+y
 focus '^Tavimor$'
-touch started
-isSaved() { keys ctrl+s; sleep 0.2; [ problem.dat -nt started ]; }
-waitFor isSaved
+waitUntilOpen problem
 cmp problem problem.before
 cmp problem.dat problem.dat.before
 keys Tab ctrl+a
@@ -84,8 +82,7 @@ cmp problem problem.before
 
 begin C.UTF-8 "$folder/problem"
 focus '^Tavimor$'
-isOpened() { keys ctrl+s; sleep 0.2; [ problem.dat -nt problem.before ]; }
-waitFor isOpened
+waitUntilOpen problem
 keys Tab Tab Tab Tab Tab Tab space # Edit values
 focus '^Enter/edit values of variable'
 endPolitely

@@ -7,7 +7,6 @@
 #include <QPointer>
 #include <QTest>
 
-#include "platform/locale.h"
 #include "support/user_locale.h"
 #include "ui/frmAbout.h"
 #include "ui/frmTavimor.h"
@@ -15,13 +14,6 @@
 
 namespace tavimor {
 namespace {
-
-std::string separator() {
-  std::string text(GetLocaleInfo(GetUserDefaultLCID(), LocaleItem::DecimalSeparator, {}), '\0');
-  GetLocaleInfo(GetUserDefaultLCID(), LocaleItem::DecimalSeparator, text);
-  text.pop_back();
-  return text;
-}
 
 class Start : public testing::Test {
  protected:
@@ -62,9 +54,9 @@ TEST_F(Start, WithACommaYesChangesItToAPointAndTheEndBringsItBack) {
   dialogs.expectAndPress("Yes");
   start();
   ASSERT_NE(window, nullptr);
-  EXPECT_EQ(separator(), ".");
+  EXPECT_EQ(test::decimalSeparator(), ".");
   window->close();
-  EXPECT_EQ(separator(), ",");
+  EXPECT_EQ(test::decimalSeparator(), ",");
   EXPECT_EQ(locale.text(), "LC_ALL=de_DE.UTF-8");
 }
 
@@ -92,7 +84,7 @@ TEST_F(Start, EnterIsYes) {
   useComma();
   dialogs.expect([](QDialog& box) { QTest::keyClick(&box, Qt::Key_Return); });
   EXPECT_EQ(DecimalPoint(), StartUp::GoesOn);
-  EXPECT_EQ(separator(), ".");
+  EXPECT_EQ(test::decimalSeparator(), ".");
   RestoreDecimalSeparator();
 }
 
@@ -125,7 +117,7 @@ TEST_F(Start, TheEndOfTheSessionBringsItBackToo) {
   QMetaObject::invokeMethod(qApp, &QCoreApplication::quit, Qt::QueuedConnection);
   EXPECT_EQ(QApplication::exec(), 0);
   EXPECT_TRUE(Form::openForms().isEmpty());
-  EXPECT_EQ(separator(), ",");
+  EXPECT_EQ(test::decimalSeparator(), ",");
 }
 
 TEST_F(Start, TheEndWritesBackASeparatorThatNobodyChangedHere) {
@@ -133,7 +125,7 @@ TEST_F(Start, TheEndWritesBackASeparatorThatNobodyChangedHere) {
   ReadDecimalSeparator();
   SetDecimalPoint();  // by another part of the system, as it were
   (new frmTavimor(model))->close();
-  EXPECT_EQ(separator(), ",");
+  EXPECT_EQ(test::decimalSeparator(), ",");
 }
 
 }  // namespace

@@ -4,7 +4,9 @@
 tavimor=$1
 cli=$2
 script=$(realpath "$0")
-packaging=$(dirname "$(realpath "${BASH_SOURCE[0]}")")/../../../packaging
+source_folder=$(realpath "$(dirname "${BASH_SOURCE[0]}")/../../..")
+packaging=$source_folder/packaging
+source "$source_folder/tests/support/checks.sh"
 
 for tool in Xvfb xdotool xclip; do
   command -v "$tool" >/dev/null || { echo "SKIPPED: $tool is not installed, so the program cannot be driven"; exit 77; }
@@ -21,12 +23,12 @@ cd "$folder"
 unset LANG LC_NUMERIC
 export LC_ALL=C.UTF-8 # whatever the locale of the tests is
 
-fail() { echo "FAILED: $*"; exit 1; }
-
-waitFor() {
-  for _ in $(seq 100); do "$@" && return; sleep 0.1; done
-  fail "waited in vain for: $*"
+# waitUntilOpen PROBLEM: as soon as it is open, Save is to be had and writes its files anew.
+waitUntilOpen() {
+  touch "$folder/before"
+  waitFor isSavedAnew "$1"
 }
+isSavedAnew() { keys ctrl+s; sleep 0.2; [ "$1.dat" -nt "$folder/before" ]; }
 
 # start ARGUMENT...: the program, until its main window is there.
 start() {
