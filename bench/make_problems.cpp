@@ -2,7 +2,7 @@
 //   make-problems FOLDER
 #include <filesystem>
 
-#include "model/problem_writer.h"
+#include "formats/problem_writer.h"
 #include "problem_sizes.h"
 
 int main(int, char** argv) {

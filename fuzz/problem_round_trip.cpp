@@ -4,10 +4,10 @@
 #include <iterator>
 #include <stdexcept>
 
-#include "model/problem_reader.h"
-#include "model/problem_writer.h"
+#include "formats/file_pair.h"
+#include "formats/problem_reader.h"
+#include "formats/problem_writer.h"
 #include "runtime/bad_file.h"
-#include "runtime/file_pair.h"
 
 namespace tavimor {
 

@@ -3,9 +3,9 @@
 #include "cli/fitting.h"
 #include "cli/output.h"
 #include "engine/Compute.h"
-#include "engine/capture_specs.h"
-#include "engine/report_lines.h"
-#include "engine/save_problem.h"
+#include "formats/save_problem.h"
+#include "model/capture_specs.h"
+#include "report/report_lines.h"
 #include "runtime/run_time_error.h"
 
 namespace tavimor {

@@ -2,7 +2,7 @@
 
 #include "cli/progress_bar.h"
 #include "engine/Compute.h"
-#include "engine/capture_specs.h"
+#include "model/capture_specs.h"
 
 namespace tavimor {
 

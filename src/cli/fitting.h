@@ -3,7 +3,7 @@
 #include <optional>
 #include <string>
 
-#include "model/open_problem.h"
+#include "formats/open_problem.h"
 
 namespace tavimor {
 

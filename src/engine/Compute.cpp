@@ -5,11 +5,11 @@
 #include <utility>
 #include <vector>
 
-#include "engine/capture_specs.h"
 #include "engine/fit_on_grid.h"
 #include "engine/right_hand_side.h"
 #include "engine/solver.h"
 #include "engine/statistics.h"
+#include "model/capture_specs.h"
 #include "runtime/number_text.h"
 #include "runtime/run_time_error.h"
 

@@ -3,7 +3,7 @@
 #include <string>
 
 #include "engine/compute_options.h"
-#include "engine/results_text.h"
+#include "report/results_text.h"
 
 namespace tavimor {
 

@@ -1,7 +1,7 @@
 #include <gmock/gmock.h>
 
 #include "cli/cli.h"
-#include "engine/save_problem.h"
+#include "formats/save_problem.h"
 #include "support/example.h"
 
 namespace tavimor {

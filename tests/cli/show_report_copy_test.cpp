@@ -1,7 +1,7 @@
 #include <gmock/gmock.h>
 
 #include "cli/cli.h"
-#include "engine/report_lines.h"
+#include "report/report_lines.h"
 #include "support/example.h"
 
 namespace tavimor {

@@ -3,8 +3,8 @@
 #include <string>
 #include <vector>
 
-#include "engine/capture_specs.h"
-#include "model/open_problem.h"
+#include "formats/open_problem.h"
+#include "model/capture_specs.h"
 #include "support/problem.h"
 
 namespace tavimor::test {

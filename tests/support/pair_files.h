@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "model/problem_reader.h"
+#include "formats/problem_reader.h"
 #include "support/files.h"
 #include "support/temporary_folder.h"
 

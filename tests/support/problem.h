@@ -5,9 +5,9 @@
 #include <vector>
 
 #include "engine/Compute.h"
-#include "engine/results_text.h"
 #include "model/Dimension.h"
 #include "model/var_values.h"
+#include "report/results_text.h"
 
 namespace tavimor::test {
 

@@ -5,9 +5,9 @@
 #include <QFileDialog>
 #include <QFileInfo>
 
-#include "runtime/file_pair.h"
-#include "ui/controls/help_file.h"
-#include "ui/controls/help_viewer.h"
+#include "formats/file_pair.h"
+#include "ui/controls/help/help_file.h"
+#include "ui/controls/help/help_viewer.h"
 #include "ui/controls/message_box.h"
 
 namespace tavimor {

@@ -3,7 +3,7 @@
 #include <QElapsedTimer>
 #include <QScrollBar>
 
-#include "model/problem_writer.h"
+#include "formats/problem_writer.h"
 #include "ui/support/main_window_test.h"
 
 namespace tavimor {

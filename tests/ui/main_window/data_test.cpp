@@ -2,7 +2,7 @@
 
 #include <QFile>
 
-#include "model/problem_writer.h"
+#include "formats/problem_writer.h"
 #include "ui/controls/application.h"
 #include "ui/support/main_window_test.h"
 

@@ -4,8 +4,8 @@
 #include <QMenuBar>
 #include <QTextBrowser>
 
-#include "model/problem_writer.h"
-#include "ui/controls/help_file.h"
+#include "formats/problem_writer.h"
+#include "ui/controls/help/help_file.h"
 #include "ui/support/help_viewer_test.h"
 #include "ui/support/main_window_test.h"
 

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "engine/Compute.h"
-#include "model/problem_writer.h"
+#include "formats/problem_writer.h"
 #include "ui/support/main_window_test.h"
 
 namespace tavimor {

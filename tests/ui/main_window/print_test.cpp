@@ -5,8 +5,8 @@
 #include <QLineEdit>
 #include <QMenu>
 
-#include "engine/report_lines.h"
-#include "model/problem_writer.h"
+#include "formats/problem_writer.h"
+#include "report/report_lines.h"
 #include "support/problem.h"
 #include "ui/controls/application.h"
 #include "ui/support/main_window_test.h"

@@ -4,8 +4,8 @@
 #include <QTimer>
 #include <csignal>
 
-#include "model/problem_reader.h"
-#include "model/problem_writer.h"
+#include "formats/problem_reader.h"
+#include "formats/problem_writer.h"
 #include "ui/controls/application.h"
 #include "ui/controls/polite_end.h"
 #include "ui/support/main_window_test.h"

@@ -1,11 +1,11 @@
-#include "ui/frmAbout.h"
+#include "ui/main_window/frmAbout.h"
 
 #include <gtest/gtest.h>
 
 #include <QPointer>
 #include <QTest>
 
-#include "ui/SubMain.h"
+#include "ui/start_up/SubMain.h"
 #include "ui/support/main_window_test.h"
 
 namespace tavimor {

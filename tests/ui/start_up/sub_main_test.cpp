@@ -1,4 +1,4 @@
-#include "ui/SubMain.h"
+#include "ui/start_up/SubMain.h"
 
 #include <gtest/gtest.h>
 
@@ -8,8 +8,8 @@
 #include <QTest>
 
 #include "support/user_locale.h"
-#include "ui/frmAbout.h"
-#include "ui/frmTavimor.h"
+#include "ui/main_window/frmAbout.h"
+#include "ui/main_window/frmTavimor.h"
 #include "ui/support/dialogs.h"
 
 namespace tavimor {

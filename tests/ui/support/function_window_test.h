@@ -10,8 +10,8 @@
 #include "model/var_values.h"
 #include "runtime/number_text.h"
 #include "ui/controls/control_array.h"
-#include "ui/frmFun.h"
-#include "ui/frmTavimor.h"
+#include "ui/data_windows/frmFun.h"
+#include "ui/main_window/frmTavimor.h"
 #include "ui/support/dialogs.h"
 
 namespace tavimor {

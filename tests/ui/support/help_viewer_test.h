@@ -11,7 +11,7 @@
 #include <QTextBrowser>
 #include <QTreeWidget>
 
-#include "ui/controls/help_viewer.h"
+#include "ui/controls/help/help_viewer.h"
 #include "ui/support/dialogs.h"
 
 namespace tavimor {

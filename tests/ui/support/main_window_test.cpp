@@ -3,8 +3,8 @@
 #include <QDir>
 #include <QFile>
 
-#include "engine/results_text.h"
 #include "model/var_values.h"
+#include "report/results_text.h"
 #include "ui/controls/control_array.h"
 
 namespace tavimor {

@@ -12,7 +12,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-#include "ui/frmTavimor.h"
+#include "ui/main_window/frmTavimor.h"
 #include "ui/support/dialogs.h"
 
 namespace tavimor {

@@ -1,6 +1,6 @@
 #include "ui/support/values_window_test.h"
 
-#include "model/problem_writer.h"
+#include "formats/problem_writer.h"
 #include "model/var_values.h"
 #include "runtime/number_text.h"
 #include "runtime/val.h"

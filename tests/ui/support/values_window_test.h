@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/frmVars.h"
+#include "ui/data_windows/frmVars.h"
 #include "ui/support/main_window_test.h"
 
 namespace tavimor {

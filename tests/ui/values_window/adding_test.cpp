@@ -4,8 +4,8 @@
 #include <QDir>
 #include <QFile>
 
-#include "model/open_problem.h"
-#include "model/problem_writer.h"
+#include "formats/open_problem.h"
+#include "formats/problem_writer.h"
 #include "ui/controls/application.h"
 #include "ui/support/values_window_test.h"
 

@@ -1,4 +1,4 @@
-#include "ui/frmEvaluations.h"
+#include "ui/data_windows/frmEvaluations.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -8,7 +8,7 @@
 
 #include "runtime/number_text.h"
 #include "runtime/run_time_error.h"
-#include "ui/frmTavimor.h"
+#include "ui/main_window/frmTavimor.h"
 #include "ui/support/dialogs.h"
 
 namespace tavimor {

@@ -1,9 +1,9 @@
 #include <gmock/gmock.h>
 
-#include "model/problem_writer.h"
+#include "formats/problem_writer.h"
 #include "runtime/run_time_error.h"
-#include "ui/frmEvaluations.h"
-#include "ui/frmFun.h"
+#include "ui/data_windows/frmEvaluations.h"
+#include "ui/data_windows/frmFun.h"
 #include "ui/support/main_window_test.h"
 
 namespace tavimor {

@@ -1,0 +1,55 @@
+#include "ui/data_windows/frmEvaluations.h"
+
+#include "runtime/number_text.h"
+#include "runtime/run_time_error.h"
+#include "runtime/val.h"
+#include "ui/main_window/frmTavimor.h"
+
+namespace tavimor {
+
+frmEvaluations::frmEvaluations(Dimension& model, frmTavimor& main)
+    : Form(QStringLiteral("frmEvaluations")),
+      EvaluationsControls(static_cast<QWidget&>(*this)),
+      model_(model),
+      main_(main) {
+  setWindowTitle(QStringLiteral("Evaluations"));
+  connect(cmdCompute, &QPushButton::clicked, this, &frmEvaluations::cmdCompute_Click);
+  for (int k = 0; k < kRows; ++k) connect(txtVarx[k], &TextBox::GotFocus, this, [this, k] { txtVarx_GotFocus(k); });
+  Form_Load();
+}
+
+void frmEvaluations::Form_Load() {
+  for (Long k = 0; k <= model_.LastVar; ++k) {
+    const QString name = QString::fromStdString(model_.VarName[k]);
+    txtVarx[k]->setText(QString::fromStdString(numberText(model_.x[k])));
+    txtVarx[k]->setAccessibleName(name);
+    lblVarx[k]->setText(name + QLatin1Char('='));
+  }
+  for (Long k = 0; k <= model_.LastVar; ++k) {
+    lblVarx[k]->show();
+    txtVarx[k]->show();
+  }
+}
+
+// The engine has told the user what it refused; all that is left of the click is dropped.
+void frmEvaluations::cmdCompute_Click() {
+  try {
+    evaluatePoint();
+  } catch (const RunTimeError& error) {
+    if (error.number() != ErrorNumber::ScriptReported) throw;
+  }
+}
+
+void frmEvaluations::evaluatePoint() {
+  for (Long k = 0; k <= model_.LastVar; ++k) {
+    model_.x[k] = Val(txtVarx[k]->text().toStdString());
+    model_.t[k] = model_.x[k] - model_.Centre[k];
+    main_.ScriptControl1.ExecuteStatement(model_.VarName[k] + "=" + numberText(model_.x[k]));
+  }
+  main_.Evaluate();
+  lblApprox->setText(QString::fromStdString(numberText(model_.S3)));
+}
+
+void frmEvaluations::txtVarx_GotFocus(int k) { txtVarx[k]->selectAll(); }
+
+}  // namespace tavimor

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "model/Dimension.h"
+#include "ui/controls/form.h"
+#include "ui/data_windows/frmEvaluations_controls.h"
+
+namespace tavimor {
+
+class frmTavimor;
+
+/// The window in which the user types a point and reads the fitted function's value there. The main window stays
+/// enabled while it is open.
+class frmEvaluations : public Form, private EvaluationsControls {
+  Q_OBJECT
+
+ public:
+  frmEvaluations(Dimension& model, frmTavimor& main);
+
+ private:
+  void Form_Load();
+  void cmdCompute_Click();
+  void evaluatePoint();
+  void txtVarx_GotFocus(int k);
+
+  Dimension& model_;
+  frmTavimor& main_;
+};
+
+}  // namespace tavimor

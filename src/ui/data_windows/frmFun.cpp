@@ -1,0 +1,184 @@
+#include "ui/data_windows/frmFun.h"
+
+#include "model/grid_walk.h"
+#include "runtime/number_text.h"
+#include "runtime/val.h"
+#include "ui/main_window/frmTavimor.h"
+
+namespace tavimor {
+
+namespace {
+
+// While it lives the window rewrites its boxes, and their change handlers do nothing: a value is not changed by being
+// shown, though its text has 15 digits only.
+class Rewriting {
+ public:
+  explicit Rewriting(Dimension& model) : model_(model) { model_.Updating = true; }
+  Rewriting(const Rewriting&) = delete;
+  Rewriting& operator=(const Rewriting&) = delete;
+  ~Rewriting() { model_.Updating = false; }
+
+ private:
+  Dimension& model_;
+};
+
+double value(const TextBox& box) { return Val(box.text().toStdString()); }
+
+Long wholeNumber(const TextBox& box) { return ValLong(box.text().toStdString()); }
+
+template <class Number>
+QString text(Number number) {
+  return QString::fromStdString(numberText(number));
+}
+
+}  // namespace
+
+frmFun::frmFun(Dimension& model, frmTavimor& main)
+    : Form(QStringLiteral("frmFun")), FunControls(static_cast<QWidget&>(*this)), model_(model), main_(main) {
+  setWindowTitle(QStringLiteral("Enter/Edit values of function"));
+  connectEvents();
+  Form_Load();
+}
+
+void frmFun::connectEvents() {
+  connect(cmdIncFunIndex, &QPushButton::clicked, this, &frmFun::cmdIncFunIndex_Click);
+  connect(cmdDecFunIndex, &QPushButton::clicked, this, &frmFun::cmdDecFunIndex_Click);
+  connect(cmdExit, &QPushButton::clicked, this, &frmFun::cmdExit_Click);
+  connect(txtFun, &TextBox::KeyPress, this, &frmFun::txtFun_KeyPress);
+  connect(txtFun, &TextBox::Change, this, &frmFun::txtFun_Change);
+  connect(txtFun, &TextBox::GotFocus, txtFun, &TextBox::selectAll);
+  for (Long k = 0; k < kMaxVariables; ++k) connectRow(k);
+}
+
+void frmFun::connectRow(Long k) {
+  for (TextBox* box : {txtFunIndex[k], txtVarIndex[k], txtVar[k]})
+    connect(box, &TextBox::GotFocus, box, &TextBox::selectAll);
+  connect(txtFunIndex[k], &TextBox::Change, this, [this, k] { txtFunIndex_Change(k); });
+  connect(txtVarIndex[k], &TextBox::Change, this, [this, k] { txtVarIndex_Change(k); });
+  connect(txtVar[k], &TextBox::Change, this, [this, k] { txtVar_Change(k); });
+  connect(txtFunIndex[k], &TextBox::Validate, this, [this, k](bool& c) { txtFunIndex_Validate(k, c); });
+  connect(txtVarIndex[k], &TextBox::Validate, this, [this, k](bool& c) { txtVarIndex_Validate(k, c); });
+  connect(cmdIncIndex[k], &QPushButton::clicked, this, [this, k] { cmdIncIndex_Click(k); });
+  connect(cmdDecIndex[k], &QPushButton::clicked, this, [this, k] { cmdDecIndex_Click(k); });
+}
+
+void frmFun::Form_Load() {
+  model_.Updating = false;
+  layOutFunctionCall(model_.LastVar);
+  txtFun->setText(text(functionAtStartIdx(model_)));
+  for (Long k = 0; k <= model_.LastVar; ++k) {
+    showRow(k, QString::fromStdString(model_.VarName[k]));
+    main_.GetVarX(k, model_.StartIdx[k]);
+    txtVar[k]->setText(text(model_.VarX));
+    txtVarIndex[k]->setText(text(model_.StartIdx[k]));
+    txtFunIndex[k]->setText(text(model_.StartIdx[k]));
+  }
+  txtFun->setFocus();
+}
+
+void frmFun::readIndices() {
+  for (Long k = 0; k <= model_.LastVar; ++k) model_.StartIdx[k] = wholeNumber(*txtFunIndex[k]);
+}
+
+void frmFun::storeFunctionValue() {
+  readIndices();
+  functionAtStartIdx(model_) = value(*txtFun);
+}
+
+void frmFun::showFunctionValue() {
+  const Rewriting rewriting(model_);
+  txtFun->setText(text(functionAtStartIdx(model_)));
+}
+
+void frmFun::showVariableValue(Long k) {
+  const Rewriting rewriting(model_);
+  main_.GetVarX(k, model_.StartIdx[k]);
+  txtVar[k]->setText(text(model_.VarX));
+}
+
+void frmFun::showPoint() {
+  const Rewriting rewriting(model_);
+  for (Long k = 0; k <= model_.LastVar; ++k) txtFunIndex[k]->setText(text(model_.StartIdx[k]));
+  txtFun->setText(text(functionAtStartIdx(model_)));
+  txtFun->selectAll();
+  for (Long k = 0; k <= model_.LastVar; ++k) {
+    main_.GetVarX(k, model_.StartIdx[k]);
+    txtVar[k]->setText(text(model_.VarX));
+    txtVarIndex[k]->setText(text(model_.StartIdx[k]));
+  }
+}
+
+void frmFun::cmdIncFunIndex_Click() {
+  storeFunctionValue();
+  moveToNextPoint(model_);
+  showPoint();
+}
+
+void frmFun::cmdDecFunIndex_Click() {
+  storeFunctionValue();
+  moveToPreviousPoint(model_);
+  showPoint();
+}
+
+void frmFun::txtFun_KeyPress(QChar& character) {
+  if (character != QLatin1Char('\r')) return;
+  character = QChar();
+  cmdIncFunIndex_Click();
+}
+
+void frmFun::cmdIncIndex_Click(Long k) {
+  model_.StartIdx[k] = nextOnRing(wholeNumber(*txtVarIndex[k]), model_.LastPoint[k]);
+  txtVarIndex[k]->setText(text(model_.StartIdx[k]));
+}
+
+void frmFun::cmdDecIndex_Click(Long k) {
+  model_.StartIdx[k] = previousOnRing(wholeNumber(*txtVarIndex[k]), model_.LastPoint[k]);
+  txtVarIndex[k]->setText(text(model_.StartIdx[k]));
+}
+
+bool frmFun::handlersRest() const { return model_.Updating || !txtFun->isVisible(); }
+
+bool frmFun::isIndexOf(Long k, const TextBox& box) const {
+  const double index = value(box);
+  return index >= 0.0 && index <= model_.LastPoint[k];
+}
+
+// A box that says the index already is left alone: the user may be typing in it, "" or "-" on the way to "3" or "-1".
+bool frmFun::says(const TextBox& box, Long k, Long index) const {
+  return isIndexOf(k, box) && wholeNumber(box) == index;
+}
+
+void frmFun::txtFun_Change() {
+  if (handlersRest()) return;
+  storeFunctionValue();
+}
+
+void frmFun::txtFunIndex_Change(Long k) {
+  if (handlersRest() || !isIndexOf(k, *txtFunIndex[k])) return;
+  if (!says(*txtVarIndex[k], k, wholeNumber(*txtFunIndex[k]))) txtVarIndex[k]->setText(txtFunIndex[k]->text());
+}
+
+void frmFun::txtVarIndex_Change(Long k) {
+  if (handlersRest() || !isIndexOf(k, *txtVarIndex[k])) return;
+  model_.StartIdx[k] = wholeNumber(*txtVarIndex[k]);
+  showVariableValue(k);
+  if (!says(*txtFunIndex[k], k, model_.StartIdx[k])) txtFunIndex[k]->setText(text(model_.StartIdx[k]));
+  readIndices();
+  showFunctionValue();
+}
+
+void frmFun::txtVar_Change(Long k) {
+  if (handlersRest()) return;
+  model_.VarX = value(*txtVar[k]);
+  main_.SetVarX(k, wholeNumber(*txtVarIndex[k]));
+}
+
+void frmFun::txtFunIndex_Validate(Long k, bool& cancel) const { cancel = !isIndexOf(k, *txtFunIndex[k]); }
+
+void frmFun::txtVarIndex_Validate(Long k, bool& cancel) const { cancel = !isIndexOf(k, *txtVarIndex[k]); }
+
+void frmFun::cmdExit_Click() { unload(); }
+
+void frmFun::Form_Unload() { main_.enable(); }
+
+}  // namespace tavimor

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "model/Dimension.h"
+#include "ui/controls/form.h"
+#include "ui/data_windows/frmFun_controls.h"
+
+namespace tavimor {
+
+class frmTavimor;
+
+/// The window in which the user walks over the grid and types the function's value at each point. It opens at the
+/// point StartIdx; the main window is disabled while it is open. Every change is stored as it is typed.
+class frmFun : public Form, private FunControls {
+  Q_OBJECT
+
+ public:
+  frmFun(Dimension& model, frmTavimor& main);
+
+ protected:
+  void Form_Unload() override;
+
+ private:
+  void connectEvents();
+  void connectRow(Long k);
+
+  void Form_Load();
+  void showPoint();
+  void showFunctionValue();
+  void showVariableValue(Long k);
+  void readIndices();
+  void storeFunctionValue();
+  bool isIndexOf(Long k, const TextBox& box) const;
+  bool says(const TextBox& box, Long k, Long index) const;
+  bool handlersRest() const;
+
+  void cmdIncFunIndex_Click();
+  void cmdDecFunIndex_Click();
+  void cmdIncIndex_Click(Long k);
+  void cmdDecIndex_Click(Long k);
+  void txtFun_KeyPress(QChar& character);
+  void txtFun_Change();
+  void txtFunIndex_Change(Long k);
+  void txtVarIndex_Change(Long k);
+  void txtVar_Change(Long k);
+  void txtFunIndex_Validate(Long k, bool& cancel) const;
+  void txtVarIndex_Validate(Long k, bool& cancel) const;
+  void cmdExit_Click();
+
+  Dimension& model_;
+  frmTavimor& main_;
+};
+
+}  // namespace tavimor

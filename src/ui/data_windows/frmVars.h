@@ -1,0 +1,50 @@
+#pragma once
+
+#include "model/Dimension.h"
+#include "ui/controls/form.h"
+#include "ui/data_windows/frmVars_controls.h"
+
+namespace tavimor {
+
+class frmTavimor;
+
+/// The window in which the user overwrites and deletes the values of variable V; the main window, which is disabled
+/// meanwhile, has filled the grid. A text box floats over the current cell of the grid and always holds its text. While
+/// it is visible, every change of its text is stored at once, in the grid and in the model.
+class frmVars : public Form, public VarsControls {
+  Q_OBJECT
+
+ public:
+  frmVars(Dimension& model, frmTavimor& main);
+
+  /// Shows the window with the first value as the current one.
+  void open();
+
+ protected:
+  void Form_Unload() override;
+
+ private:
+  void connectEvents();
+  void Form_Load();
+
+  void MSFlexGridVars_Click();
+  void MSFlexGridVars_KeyPress(QChar character);
+  void MSFlexGridVars_RowColChange();
+  void txtDataEntry_KeyPress(QChar& character);
+  void txtDataEntry_KeyDown(int& keyCode);
+  void txtDataEntry_GotFocus();
+  void txtDataEntry_Change();
+  void cmdDelete_Click();
+  void cmdExit_Click();
+
+  void moveEntry();
+  void showEntry();
+  void placeEntry();
+  void step(int rows, int cols);
+  void finish();
+
+  Dimension& model_;
+  frmTavimor& main_;
+};
+
+}  // namespace tavimor

@@ -1,0 +1,128 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "model/Dimension.h"
+#include "model/spec_fields.h"
+#include "script/ScriptHost.h"
+#include "ui/controls/common_dialog.h"
+#include "ui/controls/form.h"
+#include "ui/controls/help/help_key.h"
+#include "ui/controls/printing/printer.h"
+#include "ui/main_window/frmTavimor_controls.h"
+
+namespace tavimor {
+
+class frmEvaluations;
+class frmVars;
+
+/// The main window, the owner of the run: the user types the problem into it step by step, fits it and reads the
+/// results. All data live in the model, which the other windows share.
+class frmTavimor : public Form, private MainControls {
+  Q_OBJECT
+
+ public:
+  explicit frmTavimor(Dimension& model);
+  ~frmTavimor() override;
+
+  /// Fills the grid of the values window with the values of variable v, and puts its name into the caption.
+  void PopulateGridVars(Long v);
+  void GetVarX(Long v, Long i);
+  void SetVarX(Long v, Long i);
+
+  /// Shows block k and puts the caret into its lower limit.
+  void EditLimit(Long k);
+
+  /// Shows the model in the fields, the centres' texts excepted.
+  void SetDisplayedSpecs();
+
+  /// Makes the blocks of the declared variables and lays the tables out by the numbers that stand in the fields.
+  void LoadObjects();
+
+  void Compute();
+  void Evaluate();
+
+  /// Opens a problem as the Open command does once a file is chosen.
+  void openFile(const std::string& path);
+
+  /// Shows the number of values of variable v, which has changed, and drops the results: they belong to another grid.
+  void numberOfValuesChanged(Long v);
+
+  ScriptHost ScriptControl1;
+  Printer printer;  // one for the whole run: the next report begins with the printer and the paper of the last one
+  Long ierr = 0;    // the last run-time error that a function of the script object met
+
+ private:
+  void Form_Load();
+  void Form_Unload() override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void connectCommands();
+  void mnuAbout_Click();
+  void cmdNextVar_Click();
+  void cmdPrevVar_Click();
+  void showBlockNumber(Long number);
+
+  // Entry rules
+  void connectHeading();
+  void connectBlock(Long k);
+  void txtOrder_Validate(bool& cancel);
+  void txtOrder_LostFocus();
+  void txtVarNams_Validate(bool& cancel);
+  void txtVarNams_LostFocus();
+  void txtTerms_GotFocus(Long k);
+  void txtTerms_Validate(Long k, bool& cancel);
+  void txtTerms_LostFocus(Long k);
+  void txtPoints_GotFocus(Long k);
+  void txtPoints_Validate(Long k, bool& cancel);
+  void txtPoints_LostFocus(Long k);
+  void namesGiven();
+
+  // Files
+  void mnuOpen_Click();
+  void mnuSave_Click();
+  void mnuSaveAs_Click();
+  void mnuPrint_Click();
+  void takeSaveName();
+  void saveIfNamed();
+  void SaveProblem();
+  void showOpened(Dimension opened, const AllSpecFields& fields);
+
+  // Compute and listing
+  void cmdCompute_Click();
+  void ClearResults();
+  void CaptureSpecs();
+  void fitTablesToSpecs();
+  void ShowResults();
+  void ShowFitIfDone();
+  AllSpecFields specFields() const;
+
+  // Values and function
+  void cmdEditVars_Click(Long Index);
+  void cmdAddVars_Click(Long Index);
+  void cmdEditFun_Click();
+  void EditVarValues(Long v);
+  void doubleValuesColumn();
+  frmVars& valuesWindow();
+  void giveDefaultValues(Long v);
+  std::optional<PerVariable<Long>> askForStartingSet();
+
+  // Help
+  void mnuHelp_Click();
+  void showHelp(const QString& page);
+
+  // Script engine and evaluations
+  void setUpScript();
+  void ScriptControl1_Error();
+  void cmdEvaluations_Click();
+
+  Dimension& model_;
+  Class1 sh_{ierr};
+  QPointer<frmEvaluations> evaluations_;
+  QPointer<frmVars> valuesWindow_;
+  CommonDialog cdbFile;
+  HelpKey helpKey_{[this](const QString& form) { showHelp(form); }};
+  std::string unreadableFile_;  // a file of the user's that could not be opened: never replaced unasked
+};
+
+}  // namespace tavimor

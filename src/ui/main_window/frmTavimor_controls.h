@@ -1,0 +1,69 @@
+#pragma once
+
+#include <QAction>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <vector>
+
+#include "ui/controls/list_box.h"
+#include "ui/main_window/spec_block.h"
+
+class QMenuBar;
+
+namespace tavimor {
+
+/// The controls of the main window under their names, with captions, fonts and places. What they do is the window's.
+struct MainControls {
+  explicit MainControls(QWidget& window);
+
+  QMenuBar* menuBar;
+  QAction* mnuFile;
+  QAction* mnuOpen;
+  QAction* mnuFileBar1;
+  QAction* mnuSave;
+  QAction* mnuSaveAs;
+  QAction* mnuFileBar2;
+  QAction* mnuPrint;
+  QAction* mnuHelp;
+  QAction* mnuAbout;
+
+  QLabel* lblOrder;
+  TextBox* txtOrder;
+  QLabel* lblVarNam;
+  TextBox* txtVarNams;
+
+  QGroupBox* fraSpecs;
+  QLabel* lblVariable;
+  QLabel* lblLL;
+  QLabel* lblUL;
+  QLabel* lblPoints;
+  QLabel* lblTerms;
+  QLabel* lblExpansion;
+  std::vector<SpecBlock> blocks;
+  QPushButton* cmdPrevVar;
+  QPushButton* cmdNextVar;
+
+  QPushButton* cmdEditFun;
+  QPushButton* cmdCompute;
+  QPushButton* cmdEvaluations;
+  ListBox* lstCoeff;
+
+  /// Makes the next block, hidden, in the place that all blocks share.
+  void addBlock();
+
+  /// Lets the labels of the fields stand for the fields of block k, and Tab go as one reads.
+  void labelBlock(std::size_t k) const;
+  void orderTabs() const;
+
+ private:
+  void makeMenus(QWidget& window);
+  void makeControls();
+  void layOutSpecs();
+  QLayout* headingLayout() const;
+  QLayout* buttonsLayout() const;
+
+  QGridLayout* specs_;
+  QGridLayout* blockButtons_;
+};
+
+}  // namespace tavimor

@@ -1,0 +1,63 @@
+#include "model/add_values.h"
+#include "model/capture_specs.h"
+#include "model/grid_walk.h"
+#include "model/var_values.h"
+#include "runtime/val.h"
+#include "ui/controls/input_box.h"
+#include "ui/data_windows/frmFun.h"
+#include "ui/main_window/frmTavimor.h"
+
+namespace tavimor {
+
+void frmTavimor::cmdEditVars_Click(Long Index) {
+  CaptureSpecs();
+  blocks.at(Index).chkSpaced->setChecked(false);
+  model_.V = Index;
+  giveDefaultValues(Index);
+  EditVarValues(Index);
+}
+
+void frmTavimor::cmdAddVars_Click(Long Index) {
+  CaptureSpecs();
+  blocks.at(Index).chkSpaced->setChecked(false);
+  model_.V = Index;
+  const QString name = QString::fromStdString(model_.VarName[Index]);
+  model_.InText = InputBox(QStringLiteral("How many additional values for variable %1?").arg(name),
+                           QStringLiteral("Add values for variable %1").arg(name));
+  model_.AddCount[Index] = ValLong(model_.InText);
+  if (model_.AddCount[Index] == 0) return;
+  giveDefaultValues(Index);
+  addValues(model_, Index);
+  numberOfValuesChanged(Index);
+  EditVarValues(Index);
+}
+
+void frmTavimor::giveDefaultValues(Long v) {
+  if (!model_.ValuesGiven[v]) blocks.at(v).txtPoints->setEnabled(false);
+  tavimor::giveDefaultValues(model_, v);
+}
+
+void frmTavimor::cmdEditFun_Click() {
+  const std::optional<PerVariable<Long>> start = askForStartingSet();
+  if (!start) return;
+  RegenerateSpacedValues(model_, spacedMarks(specFields()));
+  CaptureSpecs();
+  for (Long v = 0; v <= model_.LastVar; ++v) {
+    blocks.at(v).txtPoints->setEnabled(false);
+    tavimor::giveDefaultValues(model_, v);
+  }
+  model_.StartIdx = *start;
+  disable();
+  (new frmFun(model_, *this))->showAbove(*this);
+}
+
+std::optional<PerVariable<Long>> frmTavimor::askForStartingSet() {
+  for (;;) {
+    model_.InText = InputBox(QStringLiteral("Enter indices of starting set, separated by commas:"),
+                             QStringLiteral("Review of function"));
+    if (model_.InText.empty()) return std::nullopt;
+    if (const auto start = gridPointFromText(model_, model_.InText)) return start;
+  }
+}
+
+}  // namespace tavimor

@@ -1,0 +1,123 @@
+#include <QStringList>
+#include <utility>
+
+#include "formats/open_problem.h"
+#include "formats/save_problem.h"
+#include "runtime/bad_file.h"
+#include "runtime/number_text.h"
+#include "runtime/run_time_error.h"
+#include "runtime/val.h"
+#include "ui/controls/message_box.h"
+#include "ui/main_window/frmTavimor.h"
+
+namespace tavimor {
+
+namespace {
+
+void reportUnopened(const std::string& path, const std::string& reason) {
+  showWarning(QStringLiteral("The problem cannot be opened:\n\n%1\n\n%2")
+                  .arg(QString::fromStdString(path), QString::fromStdString(reason)));
+}
+
+}  // namespace
+
+void frmTavimor::mnuOpen_Click() {
+  cdbFile.ShowOpen();
+  if (!cdbFile.FileName.empty()) openFile(cdbFile.FileName);
+}
+
+void frmTavimor::openFile(const std::string& path) {
+  cdbFile.FileName = unreadableFile_ = path;
+  Dimension opened = model_;
+  AllSpecFields fields = specFields();
+  try {
+    openProblem(path, opened, fields);
+  } catch (const BadFile& error) {
+    reportUnopened(error.path, error.what());
+    return;
+  } catch (const RunTimeError& error) {
+    reportUnopened(error.path().empty() ? path : error.path(), error.report());
+    return;
+  }
+  opened.FileName = path;
+  unreadableFile_.clear();
+  showOpened(std::move(opened), fields);
+}
+
+void frmTavimor::showOpened(Dimension opened, const AllSpecFields& fields) {
+  model_.LoadingFile = opened.LoadingFile = true;
+  txtOrder->setEnabled(false);
+  txtVarNams->setEnabled(false);
+  blocks.at(model_.V).txtPoints->setEnabled(false);
+  model_.LastVar = opened.LastVar;
+  LoadObjects();
+  model_ = std::move(opened);
+  for (Long k = 0; k <= model_.LastVar; ++k)
+    blocks[k].txtExpansion->setText(QString::fromStdString(fields[k].txtExpansion));
+  SetDisplayedSpecs();
+  ShowFitIfDone();
+  mnuOpen->setEnabled(false);
+  namesGiven();
+  model_.LoadingFile = false;
+  EditLimit(model_.CurVar - 1);
+}
+
+void frmTavimor::SetDisplayedSpecs() {
+  txtOrder->setText(QString::fromStdString(numberText(model_.LastVar + 1)));
+  QStringList names;
+  for (Long k = 0; k <= model_.LastVar; ++k) names << QString::fromStdString(model_.VarName[k]);
+  txtVarNams->setText(names.join(QLatin1Char(',')));
+  AllSpecFields fields = specFields();
+  tavimor::SetDisplayedSpecs(model_, fields);
+  for (Long k = 0; k <= model_.LastVar; ++k) {
+    blocks[k].lblVar->setText(names[k]);
+    showFields(blocks[k], fields[k]);
+  }
+}
+
+void frmTavimor::LoadObjects() {
+  while (std::ssize(blocks) <= model_.LastVar) {
+    addBlock();
+    connectBlock(static_cast<Long>(blocks.size()) - 1);
+  }
+  orderTabs();
+  PerVariable<Long> terms{}, points{};
+  for (Long k = 0; k <= model_.LastVar; ++k) {
+    blocks[k].chkSpaced->setChecked(true);
+    terms[k] = ValLong(blocks[k].txtTerms->text().toStdString());
+    points[k] = ValLong(blocks[k].txtPoints->text().toStdString());
+  }
+  model_.Coef.redim(terms);
+  model_.F.redim(points);
+}
+
+void frmTavimor::mnuSave_Click() {
+  if (model_.FileName.empty()) takeSaveName();
+  saveIfNamed();
+}
+
+void frmTavimor::mnuSaveAs_Click() {
+  takeSaveName();
+  saveIfNamed();
+}
+
+// A dialog that is called off leaves the name of the dialog before it, and the problem is saved there; but never in
+// the place of a file that could not be opened.
+void frmTavimor::takeSaveName() {
+  const bool isCancelled = cdbFile.ShowSave() == DialogEnd::Cancelled;
+  if (isCancelled && !unreadableFile_.empty() && cdbFile.FileName == unreadableFile_) return;
+  unreadableFile_.clear();
+  model_.FileName = cdbFile.FileName;
+}
+
+// The program may have been told to end while the dialog was open: nobody has asked it to save then.
+void frmTavimor::saveIfNamed() {
+  if (!isEnding() && !model_.FileName.empty()) SaveProblem();
+}
+
+void frmTavimor::SaveProblem() {
+  CaptureSpecs();
+  tavimor::SaveProblem(model_, specFields(), model_.FileName);
+}
+
+}  // namespace tavimor

@@ -1,0 +1,40 @@
+#include <QMenuBar>
+
+#include "ui/main_window/frmTavimor_controls.h"
+
+namespace tavimor {
+
+namespace {
+
+QAction* addItem(QWidget& menu, const char* name, const char* caption, const QKeySequence& shortcut = {}) {
+  auto* item = new QAction(QLatin1String(caption), &menu);
+  item->setObjectName(QLatin1String(name));
+  item->setShortcut(shortcut);
+  menu.addAction(item);
+  return item;
+}
+
+QAction* addBar(QMenu& menu, const char* name) {
+  QAction* bar = menu.addSeparator();
+  bar->setObjectName(QLatin1String(name));
+  return bar;
+}
+
+}  // namespace
+
+void MainControls::makeMenus(QWidget& window) {
+  menuBar = new QMenuBar(&window);
+  QMenu* menu = menuBar->addMenu(QStringLiteral("&File"));
+  mnuFile = menu->menuAction();
+  mnuFile->setObjectName(QStringLiteral("mnuFile"));
+  mnuOpen = addItem(*menu, "mnuOpen", "&Open", Qt::CTRL | Qt::Key_O);
+  mnuFileBar1 = addBar(*menu, "mnuFileBar1");
+  mnuSave = addItem(*menu, "mnuSave", "&Save", Qt::CTRL | Qt::Key_S);
+  mnuSaveAs = addItem(*menu, "mnuSaveAs", "Save &As", Qt::CTRL | Qt::SHIFT | Qt::Key_S);
+  mnuFileBar2 = addBar(*menu, "mnuFileBar2");
+  mnuPrint = addItem(*menu, "mnuPrint", "&Print", Qt::CTRL | Qt::Key_P);
+  mnuHelp = addItem(*menuBar, "mnuHelp", "&Help");
+  mnuAbout = addItem(*menuBar, "mnuAbout", "&About");
+}
+
+}  // namespace tavimor

@@ -1,0 +1,67 @@
+#include <QApplication>
+#include <QStringList>
+
+#include "model/capture_specs.h"
+#include "model/var_values.h"
+#include "report/results_text.h"
+#include "ui/controls/wait_pointer.h"
+#include "ui/main_window/frmTavimor.h"
+
+namespace tavimor {
+
+void frmTavimor::cmdCompute_Click() {
+  const WaitPointer hourglass;
+  ClearResults();
+  CaptureSpecs();
+  model_.FitDone = false;
+  Compute();
+  if (!model_.FitDone) return;
+  QApplication::beep();
+  ShowResults();
+  cmdEvaluations->setEnabled(true);
+}
+
+void frmTavimor::ClearResults() {
+  if (model_.LoadingFile) return;
+  lstCoeff->clear();
+  model_.FitDone = false;
+}
+
+void frmTavimor::CaptureSpecs() {
+  tavimor::CaptureSpecs(model_, specFields());
+  fitTablesToSpecs();
+}
+
+// A degree or a number of values can be captured before its field is left, or without the user's having been there;
+// the tables then follow here as they do when the field is left.
+void frmTavimor::fitTablesToSpecs() {
+  if (model_.Coef.last() != model_.Degree) {
+    ClearResults();
+    model_.Coef.redim(model_.Degree);
+  }
+  if (model_.F.last() != model_.LastPoint) {
+    ClearResults();
+    model_.F.redim(model_.LastPoint);
+  }
+  for (Long v = 0; v <= model_.LastVar; ++v) ResizeVarValues(model_, v);
+}
+
+void frmTavimor::ShowResults() {
+  QStringList lines;
+  tavimor::ShowResults(model_, [&lines](const std::string& line) { lines << QString::fromStdString(line); });
+  lstCoeff->addItems(lines);
+}
+
+void frmTavimor::ShowFitIfDone() {
+  if (!model_.FitDone) return;
+  ShowResults();
+  cmdEvaluations->setEnabled(true);
+}
+
+AllSpecFields frmTavimor::specFields() const {
+  AllSpecFields fields;
+  for (std::size_t k = 0; k < blocks.size(); ++k) fields[k] = fieldsOf(blocks[k]);
+  return fields;
+}
+
+}  // namespace tavimor

@@ -1,0 +1,56 @@
+#include "runtime/number_text.h"
+#include "ui/data_windows/frmVars.h"
+#include "ui/main_window/frmTavimor.h"
+
+namespace tavimor {
+
+namespace {
+
+template <class Number>
+QString text(Number number) {
+  return QString::fromStdString(numberText(number));
+}
+
+}  // namespace
+
+frmTavimor::~frmTavimor() { delete valuesWindow_; }
+
+frmVars& frmTavimor::valuesWindow() {
+  if (valuesWindow_ == nullptr || !valuesWindow_->isOpen()) valuesWindow_ = new frmVars(model_, *this);
+  return *valuesWindow_;
+}
+
+// Once, at the start-up: a window that is made anew after it was closed has the designed width.
+void frmTavimor::doubleValuesColumn() {
+  FlexGrid& grid = *valuesWindow().MSFlexGridVars;
+  grid.setColWidth(1, 2 * grid.ColWidth(1));
+}
+
+void frmTavimor::EditVarValues(Long v) {
+  model_.V = v;
+  disable();
+  PopulateGridVars(v);
+  valuesWindow().open();
+}
+
+void frmTavimor::PopulateGridVars(Long v) {
+  const QString name = QString::fromStdString(model_.VarName[v]);
+  FlexGrid& grid = *valuesWindow().MSFlexGridVars;
+  grid.setRows(model_.LastPoint[v] + 1);
+  grid.setCols(2);
+  grid.setColAlignment(0, CellAlignment::RightCentre);
+  grid.setColAlignment(1, CellAlignment::CentreCentre);
+  for (Long i = 0; i <= model_.LastPoint[v]; ++i) {
+    grid.setTextMatrix(i, 0, QStringLiteral("%1(%2)=").arg(name, text(i)));
+    GetVarX(v, i);
+    grid.setTextMatrix(i, 1, text(model_.VarX));
+  }
+  valuesWindow().setWindowTitle(QStringLiteral("Enter/edit values of variable: ") + name);
+}
+
+void frmTavimor::numberOfValuesChanged(Long v) {
+  blocks.at(v).txtPoints->setText(text(model_.LastPoint[v] + 1));
+  ClearResults();
+}
+
+}  // namespace tavimor

@@ -1,0 +1,182 @@
+// Whatever happens while a problem is saved: the pair that is read afterwards is the old one or the new one.
+#include <gtest/gtest.h>
+
+#include "formats/problem_reader.h"
+#include "formats/problem_writer.h"
+#include "support/child_process.h"
+#include "support/expect_error.h"
+#include "support/faulty_steps.h"
+#include "support/pair_files.h"
+#include "support/stored_problems.h"
+
+namespace tavimor {
+namespace {
+
+using test::Fault;
+using test::FaultySteps;
+
+// Every number of the pair, in both files, is this mark, the counts excepted: a mixed pair shows both marks.
+Dimension markedProblem(double mark) {
+  Dimension model = test::gridProblem({2, 2});
+  test::pretendFit(model);
+  model.LowerLimit = {mark, mark};
+  for (Table4* table : {&model.F, &model.Coef}) std::fill_n(table->data(), table->size(), mark);
+  model.AvgGiven = mark;
+  return model;
+}
+
+constexpr double kOld = 1, kNew = 2;
+
+class SaveFaults : public test::PairTest, public testing::WithParamInterface<bool> {
+ protected:
+  bool thereIsAnOldPair() const { return GetParam(); }
+
+  void begin() const {
+    for (const std::string& name : test::namesIn(folder.path())) std::filesystem::remove(folder / name);
+    FaultySteps steps;
+    if (thereIsAnOldPair()) writeProblem(markedProblem(kOld), path(), steps);
+  }
+
+  void save(FaultySteps& steps) const { writeProblem(markedProblem(kNew), path(), steps); }
+
+  int countSteps() const {
+    begin();
+    FaultySteps steps;
+    save(steps);
+    return steps.count();
+  }
+
+  // The mark of the pair that is read, 0 where there is none.
+  double readMark() const {
+    Dimension model;
+    try {
+      readProblem(path(), model);
+    } catch (const RunTimeError& error) {
+      EXPECT_EQ(error.number(), ErrorNumber::FileNotFound);
+      return 0;
+    }
+    test::expectSameProblem(model, markedProblem(model.AvgGiven));
+    return model.AvgGiven;
+  }
+
+  double oldMark() const { return thereIsAnOldPair() ? kOld : 0; }
+
+  void expectOldOrNew() const {
+    const double mark = readMark();
+    EXPECT_TRUE(mark == oldMark() || mark == kNew) << mark;
+  }
+
+  // The next save works and leaves nothing but the pair.
+  void expectTidyAfterNextSave() const {
+    FaultySteps steps;
+    save(steps);
+    EXPECT_EQ(readMark(), kNew);
+    EXPECT_EQ(test::namesIn(folder.path()), (std::vector<std::string>{"p", "p.dat"}));
+  }
+};
+
+TEST_P(SaveFaults, ARefusedStepLeavesTheOldPairAndNothingElse) {
+  const int count = countSteps();
+  for (int step = 1; step <= count; ++step) {
+    SCOPED_TRACE("step " + std::to_string(step) + " of " + std::to_string(count));
+    begin();
+    const std::vector<std::string> names = test::namesIn(folder.path());
+    FaultySteps steps({{step, Fault::Refused}});
+    try {
+      save(steps);
+      // Only what tidies up behind a finished save is refused without an error.
+      EXPECT_EQ(readMark(), kNew);
+      EXPECT_GT(step, count - (thereIsAnOldPair() ? 2 : 1));
+    } catch (const RunTimeError& error) {
+      EXPECT_EQ(error.number(), ErrorNumber::DiskFull);
+      EXPECT_EQ(readMark(), oldMark());
+      EXPECT_EQ(test::namesIn(folder.path()), names);
+    }
+    expectTidyAfterNextSave();
+  }
+}
+
+TEST_P(SaveFaults, TwoRefusedStepsLeaveAWholePair) {
+  const int count = countSteps();
+  for (int first = 1; first <= count; ++first)
+    for (int second = first + 1; second <= first + 8; ++second) {
+      SCOPED_TRACE("steps " + std::to_string(first) + " and " + std::to_string(second));
+      begin();
+      FaultySteps steps({{first, Fault::Refused}, {second, Fault::Refused}});
+      try {
+        save(steps);
+      } catch (const RunTimeError& error) {
+        EXPECT_EQ(error.number(), ErrorNumber::DiskFull);
+      }
+      expectOldOrNew();
+      expectTidyAfterNextSave();
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(WriteProblem, SaveFaults, testing::Bool(), [](const auto& thereIsAnOldPair) {
+  return thereIsAnOldPair.param ? "OverAnOldPair" : "WhereThereIsNone";
+});
+
+#ifndef _WIN32
+
+using KilledSaves = SaveFaults;
+
+TEST_P(KilledSaves, LeaveTheOldPairUntilTheNewValuesAreInPlace) {
+  const int count = countSteps();
+  double before = oldMark();
+  for (int step = 1; step <= count; ++step) {
+    SCOPED_TRACE("step " + std::to_string(step));
+    begin();
+    ASSERT_EQ(test::exitCodeOfChild([&] {
+                FaultySteps steps({{step, Fault::Killed}});
+                save(steps);
+              }),
+              test::kKilled);
+    expectOldOrNew();
+    const double mark = readMark();
+    EXPECT_GE(mark, before) << "the new pair was there already";
+    before = mark;
+    expectTidyAfterNextSave();
+  }
+  EXPECT_EQ(before, kNew);
+}
+
+TEST_P(KilledSaves, LeaveAWholePairOnTheWayBackToo) {
+  const int count = countSteps();
+  for (int refused = 1; refused <= count; ++refused)
+    for (int killed = refused + 1; killed <= refused + 8; ++killed) {
+      SCOPED_TRACE("refused " + std::to_string(refused) + ", killed " + std::to_string(killed));
+      begin();
+      test::exitCodeOfChild([&] {
+        FaultySteps steps({{refused, Fault::Refused}, {killed, Fault::Killed}});
+        save(steps);
+      });
+      expectOldOrNew();
+      expectTidyAfterNextSave();
+    }
+}
+
+// The next save is killed as well, anywhere while it tidies up or does its own work.
+TEST_P(KilledSaves, LeaveAWholePairWhenTheNextOneIsKilledToo) {
+  const int count = countSteps();
+  for (int first = 1; first <= count; ++first)
+    for (int second = 1; second <= count + 3; ++second) {
+      SCOPED_TRACE("killed at " + std::to_string(first) + ", then at " + std::to_string(second));
+      begin();
+      for (const int step : {first, second})
+        test::exitCodeOfChild([&] {
+          FaultySteps steps({{step, Fault::Killed}});
+          save(steps);
+        });
+      expectOldOrNew();
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(WriteProblem, KilledSaves, testing::Bool(), [](const auto& thereIsAnOldPair) {
+  return thereIsAnOldPair.param ? "OverAnOldPair" : "WhereThereIsNone";
+});
+
+#endif
+
+}  // namespace
+}  // namespace tavimor
