@@ -4,7 +4,7 @@
 #include <cmath>
 
 #include "model/Dimension.h"
-#include "model/var_values.h"
+#include "model/value_lists.h"
 
 /// The problems that are measured: smooth functions tabulated on grids.
 namespace tavimor::bench {

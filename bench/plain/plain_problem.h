@@ -1,7 +1,7 @@
 #pragma once
 
 #include "model/Dimension.h"
-#include "model/var_values.h"
+#include "model/value_lists.h"
 #include "plain_fit.h"
 
 namespace plain {

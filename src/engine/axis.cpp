@@ -1,6 +1,6 @@
 #include "engine/axis.h"
 
-#include "model/var_values.h"
+#include "model/value_lists.h"
 #include "runtime/run_time_error.h"
 
 namespace tavimor {

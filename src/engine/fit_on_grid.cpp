@@ -3,7 +3,7 @@
 #include <vector>
 
 #include "engine/lane_sums.h"
-#include "model/var_values.h"
+#include "model/value_lists.h"
 #include "runtime/run_time_error.h"
 
 namespace tavimor {

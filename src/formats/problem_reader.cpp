@@ -8,7 +8,7 @@
 
 #include "formats/file_pair.h"
 #include "model/spec_fields.h"
-#include "model/var_values.h"
+#include "model/value_lists.h"
 #include "platform/memory.h"
 #include "runtime/input_file.h"
 #include "runtime/val.h"

@@ -1,7 +1,7 @@
 #include "formats/problem_writer.h"
 
 #include "formats/file_pair.h"
-#include "model/var_values.h"
+#include "model/value_lists.h"
 
 namespace tavimor {
 

@@ -4,7 +4,7 @@
 #include <optional>
 #include <utility>
 
-#include "model/var_values.h"
+#include "model/value_lists.h"
 #include "platform/files.h"
 #include "runtime/bad_file.h"
 #include "runtime/input_file.h"

@@ -1,6 +1,6 @@
 #include "model/capture_specs.h"
 
-#include "model/var_values.h"
+#include "model/value_lists.h"
 #include "runtime/run_time_error.h"
 #include "runtime/val.h"
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <limits>
 
+#include "model/grid_indices.h"
 #include "runtime/run_time_error.h"
 
 namespace tavimor {
@@ -41,11 +42,11 @@ void Table4::resizeKeeping(const PerVariable<Long>& last) {
   PerVariable<Long> common{};
   std::transform(last.begin(), last.end(), last_.begin(), common.begin(),
                  [](Long a, Long b) { return std::min(a, b); });
-  for (Long i3 = 0; i3 <= common[3]; ++i3)
-    for (Long i2 = 0; i2 <= common[2]; ++i2)
-      for (Long i1 = 0; i1 <= common[1]; ++i1)
-        std::copy_n(&elements_[offset(0, i1, i2, i3)], common[0] + 1,
-                    &resized.elements_[resized.offset(0, i1, i2, i3)]);
+  const Long run = common[0];  // neighbours in memory
+  common[0] = 0;
+  forEachIndex(common, [&](const PerVariable<Long>& first) {
+    std::copy_n(&elements_[offset(first)], run + 1, &resized.elements_[resized.offset(first)]);
+  });
   *this = std::move(resized);
 }
 
@@ -55,8 +56,7 @@ std::size_t Table4::stride(int k) const {
   return distance;
 }
 
-std::size_t Table4::offset(Long i0, Long i1, Long i2, Long i3) const {
-  const PerVariable<Long> index = {i0, i1, i2, i3};
+std::size_t Table4::offset(const PerVariable<Long>& index) const {
   std::size_t at = 0;
   for (int k = kMaxVariables - 1; k >= 0; --k) {
     const Long i = index[k];

@@ -56,14 +56,16 @@ class Table4 {
   /// The distance in memory between neighbours along axis k.
   std::size_t stride(int k) const;
 
-  double& operator()(Long i0, Long i1, Long i2, Long i3) { return elements_[offset(i0, i1, i2, i3)]; }
-  double operator()(Long i0, Long i1, Long i2, Long i3) const { return elements_[offset(i0, i1, i2, i3)]; }
+  double& operator()(Long i0, Long i1, Long i2, Long i3) { return elements_[offset({i0, i1, i2, i3})]; }
+  double operator()(Long i0, Long i1, Long i2, Long i3) const { return elements_[offset({i0, i1, i2, i3})]; }
+  double& operator()(const PerVariable<Long>& index) { return elements_[offset(index)]; }
+  double operator()(const PerVariable<Long>& index) const { return elements_[offset(index)]; }
 
   double* data() { return elements_.data(); }
   const double* data() const { return elements_.data(); }
 
  private:
-  std::size_t offset(Long i0, Long i1, Long i2, Long i3) const;
+  std::size_t offset(const PerVariable<Long>& index) const;
 
   PerVariable<Long> last_{};
   std::vector<double, TableAllocator<double>> elements_;

@@ -1,6 +1,6 @@
 #include "report/report_lines.h"
 
-#include "model/var_values.h"
+#include "model/value_lists.h"
 #include "runtime/number_text.h"
 #include "runtime/text.h"
 

@@ -6,7 +6,7 @@
 #include <random>
 
 #include "engine/Compute.h"
-#include "model/var_values.h"
+#include "model/value_lists.h"
 #include "plain_problem.h"
 
 // Every sum is one chain in a stated order, so the fit must give the bits of the plain loops on each instruction set

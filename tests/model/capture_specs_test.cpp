@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "model/var_values.h"
+#include "model/value_lists.h"
 #include "runtime/run_time_error.h"
 
 namespace tavimor {

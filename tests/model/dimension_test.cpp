@@ -4,7 +4,7 @@
 
 #include <cmath>
 
-#include "model/var_values.h"
+#include "model/value_lists.h"
 #include "support/stored_problems.h"
 
 namespace tavimor {
@@ -39,8 +39,9 @@ TEST(ClearVariables, ClearsWhatIsKeptPerVariable) {
   for (const auto entries :
        {&Dimension::LowerLimit, &Dimension::UpperLimit, &Dimension::Centre, &Dimension::Step, &Dimension::Period})
     EXPECT_EQ(model.*entries, empty.*entries);
-  for (const auto entries : {&Dimension::Degree, &Dimension::LastPoint, &Dimension::AddCount, &Dimension::StartIdx})
+  for (const auto entries : {&Dimension::Degree, &Dimension::LastPoint, &Dimension::AddCount})
     EXPECT_EQ(model.*entries, empty.*entries);
+  EXPECT_EQ(model.StartIdx, empty.StartIdx);
   for (const auto entries :
        {&Dimension::EquallySpaced, &Dimension::ValuesGiven, &Dimension::PeriodFlag, &Dimension::TrigFlag})
     EXPECT_EQ(model.*entries, empty.*entries);

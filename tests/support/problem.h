@@ -6,7 +6,7 @@
 
 #include "engine/Compute.h"
 #include "model/Dimension.h"
-#include "model/var_values.h"
+#include "model/value_lists.h"
 #include "report/results_text.h"
 
 namespace tavimor::test {

@@ -7,7 +7,7 @@
 #include <cmath>
 #include <cstdint>
 
-#include "model/var_values.h"
+#include "model/value_lists.h"
 
 namespace tavimor::test {
 

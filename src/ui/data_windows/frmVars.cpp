@@ -1,6 +1,6 @@
 #include "ui/data_windows/frmVars.h"
 
-#include "model/var_values.h"
+#include "model/delete_value.h"
 #include "runtime/number_text.h"
 #include "runtime/val.h"
 #include "ui/main_window/frmTavimor.h"

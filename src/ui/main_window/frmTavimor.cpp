@@ -5,7 +5,7 @@
 
 #include "engine/Compute.h"
 #include "engine/evaluate.h"
-#include "model/var_values.h"
+#include "model/value_lists.h"
 #include "ui/controls/message_box.h"
 #include "ui/start_up/SubMain.h"
 

@@ -1,7 +1,7 @@
 #include "model/add_values.h"
 #include "model/capture_specs.h"
 #include "model/grid_walk.h"
-#include "model/var_values.h"
+#include "model/value_lists.h"
 #include "runtime/val.h"
 #include "ui/controls/input_box.h"
 #include "ui/data_windows/frmFun.h"

@@ -2,7 +2,7 @@
 #include <QStringList>
 
 #include "model/capture_specs.h"
-#include "model/var_values.h"
+#include "model/value_lists.h"
 #include "report/results_text.h"
 #include "ui/controls/wait_pointer.h"
 #include "ui/main_window/frmTavimor.h"

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "model/var_values.h"
+#include "model/value_lists.h"
 #include "runtime/number_text.h"
 #include "ui/controls/control_array.h"
 #include "ui/data_windows/frmFun.h"

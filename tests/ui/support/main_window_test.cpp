@@ -3,7 +3,7 @@
 #include <QDir>
 #include <QFile>
 
-#include "model/var_values.h"
+#include "model/value_lists.h"
 #include "report/results_text.h"
 #include "ui/controls/control_array.h"
 

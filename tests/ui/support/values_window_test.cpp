@@ -1,7 +1,7 @@
 #include "ui/support/values_window_test.h"
 
 #include "formats/problem_writer.h"
-#include "model/var_values.h"
+#include "model/value_lists.h"
 #include "runtime/number_text.h"
 #include "runtime/val.h"
 #include "ui/controls/control_array.h"

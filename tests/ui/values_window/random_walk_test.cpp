@@ -4,7 +4,7 @@
 #include <map>
 #include <random>
 
-#include "model/var_values.h"
+#include "model/value_lists.h"
 #include "runtime/val.h"
 #include "ui/support/values_window_test.h"
 

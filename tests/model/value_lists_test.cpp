@@ -1,7 +1,8 @@
-#include "model/var_values.h"
+#include "model/value_lists.h"
 
 #include <gtest/gtest.h>
 
+#include "model/delete_value.h"
 #include "support/expect_error.h"
 #include "support/stored_problems.h"
 
@@ -12,7 +13,7 @@ using test::expectError;
 using test::gridProblem;
 using Values = std::vector<double>;
 
-TEST(VarValues, PassThroughVarX) {
+TEST(ValueLists, PassThroughVarX) {
   Dimension model = gridProblem({2, 2, 2, 2});
   for (Long v = 0; v < kMaxVariables; ++v) {
     model.VarX = 10 + v;
@@ -26,7 +27,7 @@ TEST(VarValues, PassThroughVarX) {
   EXPECT_EQ(model.VarX, 12);
 }
 
-TEST(VarValues, AVariableNumberOutsideZeroToThreeChangesNothing) {
+TEST(ValueLists, AVariableNumberOutsideZeroToThreeChangesNothing) {
   Dimension model = gridProblem({2, 2});
   const Dimension before = model;
   model.VarX = 7;
@@ -40,7 +41,7 @@ TEST(VarValues, AVariableNumberOutsideZeroToThreeChangesNothing) {
   }
 }
 
-TEST(VarValues, AnIndexOutsideTheListIsAnError) {
+TEST(ValueLists, AnIndexOutsideTheListIsAnError) {
   Dimension model = gridProblem({3});
   model.VarX = 7;
   for (const Long i : {-1, 3}) {
@@ -52,7 +53,7 @@ TEST(VarValues, AnIndexOutsideTheListIsAnError) {
   EXPECT_EQ(model.X0, (Values{0, 1, 2}));
 }
 
-TEST(VarValues, ResizingKeepsTheValuesAndAddsZeros) {
+TEST(ValueLists, ResizingKeepsTheValuesAndAddsZeros) {
   Dimension model = gridProblem({3});
   model.LastPoint[0] = 4;
   ResizeVarValues(model, 0);
@@ -65,7 +66,7 @@ TEST(VarValues, ResizingKeepsTheValuesAndAddsZeros) {
   EXPECT_EQ(model.X0, (Values{0, 1}));
 }
 
-TEST(VarValues, DefaultValuesAreGeneratedOnce) {
+TEST(ValueLists, DefaultValuesAreGeneratedOnce) {
   Dimension model;
   model.LastPoint[1] = 3;
   model.LowerLimit[1] = -1;
@@ -78,56 +79,12 @@ TEST(VarValues, DefaultValuesAreGeneratedOnce) {
   EXPECT_EQ(model.X1[2], 9);
 }
 
-TEST(VarValues, AVariableListBeyondTheFourthIsAnError) {
+TEST(ValueLists, AVariableListBeyondTheFourthIsAnError) {
   Dimension model;
   expectError(ErrorNumber::SubscriptOutOfRange, [&] { valueList(model, 4); });
   expectError(ErrorNumber::SubscriptOutOfRange, [&] { valueList(model, -1); });
 }
 
 // The last value takes the place of the one that goes, in the list and in the table.
-TEST(DeleteValue, MovesTheLastValueIntoTheGap) {
-  for (Long v = 0; v < 3; ++v)
-    for (Long r = 0; r < 4; ++r) {
-      const Dimension before = gridProblem({4, 4, 4});
-      Dimension model = before;
-      deleteValue(model, v, r);
-      ASSERT_EQ(model.LastPoint[v], 2);
-      PerVariable<Long> last = before.LastPoint;
-      last[v] = 2;
-      ASSERT_EQ(model.F.last(), last);
-      for (Long i = 0; i <= 2; ++i) EXPECT_EQ(valueList(model, v)[i], i == r ? 3 : i);
-      PerVariable<Long> i{};
-      for (i[0] = 0; i[0] <= last[0]; ++i[0])
-        for (i[1] = 0; i[1] <= last[1]; ++i[1])
-          for (i[2] = 0; i[2] <= last[2]; ++i[2]) {
-            PerVariable<Long> from = i;
-            if (i[v] == r) from[v] = 3;
-            ASSERT_EQ(model.F(i[0], i[1], i[2], 0), before.F(from[0], from[1], from[2], 0));
-          }
-    }
-}
-
-TEST(DeleteValue, KeepsTheOtherVariables) {
-  Dimension model = gridProblem({3, 2});
-  deleteValue(model, 0, 1);
-  EXPECT_EQ(model.X1, (Values{0, 1}));
-  EXPECT_EQ(model.LastPoint[1], 1);
-}
-
-TEST(DeleteValue, LeavesASingleValueAlone) {
-  Dimension model = gridProblem({1, 2});
-  const Dimension before = model;
-  deleteValue(model, 0, 0);
-  test::expectSameProblem(model, before);
-}
-
-TEST(DeleteValue, OfAnIndexOutsideTheListIsAnErrorAndChangesNothing) {
-  Dimension model = gridProblem({3, 2});
-  const Dimension before = model;
-  expectError(ErrorNumber::SubscriptOutOfRange, [&] { deleteValue(model, 0, 3); });
-  expectError(ErrorNumber::SubscriptOutOfRange, [&] { deleteValue(model, 0, -1); });
-  test::expectSameProblem(model, before);
-}
-
 }  // namespace
 }  // namespace tavimor

@@ -1,0 +1,61 @@
+#include "model/value_lists.h"
+
+#include <iterator>
+#include <new>
+
+#include "platform/memory.h"
+#include "runtime/run_time_error.h"
+
+namespace tavimor {
+
+std::vector<double>& valueList(Problem& problem, Long v) {
+  switch (v) {
+    case 0: return problem.X0;
+    case 1: return problem.X1;
+    case 2: return problem.X2;
+    case 3: return problem.X3;
+    default: throw RunTimeError(ErrorNumber::SubscriptOutOfRange);
+  }
+}
+
+const std::vector<double>& valueList(const Problem& problem, Long v) {
+  return valueList(const_cast<Problem&>(problem), v);
+}
+
+double& valueOf(Problem& problem, Long v, Long i) {
+  std::vector<double>& list = valueList(problem, v);
+  if (i < 0 || i >= std::ssize(list)) throw RunTimeError(ErrorNumber::SubscriptOutOfRange);
+  return list[i];
+}
+
+double valueOf(const Problem& problem, Long v, Long i) { return valueOf(const_cast<Problem&>(problem), v, i); }
+
+void ResizeVarValues(Problem& problem, Long v) {
+  if (v < 0 || v >= kMaxVariables) return;
+  const Long last = problem.LastPoint[v];
+  if (last < 0) throw RunTimeError(ErrorNumber::SubscriptOutOfRange);
+  const std::size_t count = static_cast<std::size_t>(last) + 1;
+  std::vector<double>& values = valueList(problem, v);
+  try {
+    values.reserve(count);
+    preferLargePages(values.data(), count * sizeof(double));  // before they are touched
+    values.resize(count);
+  } catch (const std::bad_alloc&) {
+    throw RunTimeError(ErrorNumber::OutOfMemory);
+  }
+}
+
+void generateSpacedValues(Problem& problem, Long v) {
+  ResizeVarValues(problem, v);
+  for (Long i = 0; i <= problem.LastPoint[v]; ++i)
+    valueOf(problem, v, i) = problem.LowerLimit[v] + static_cast<double>(i) * problem.Step[v];
+}
+
+void giveDefaultValues(Problem& problem, Long v) {
+  bool& given = problem.ValuesGiven[v];
+  if (given) return;
+  given = true;
+  generateSpacedValues(problem, v);
+}
+
+}  // namespace tavimor
