@@ -7,6 +7,8 @@
 
 int main(int, char** argv) {
   std::filesystem::create_directories(argv[1]);
-  for (const auto& size : tavimor::bench::kProblemSizes)
-    tavimor::writeProblem(tavimor::bench::makeProblem(size), (std::filesystem::path(argv[1]) / size.name).string());
+  for (const auto& size : tavimor::bench::kProblemSizes) {
+    const tavimor::Dimension model = tavimor::bench::makeProblem(size);
+    tavimor::writeProblem(model, model, (std::filesystem::path(argv[1]) / size.name).string());
+  }
 }

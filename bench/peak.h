@@ -1,6 +1,6 @@
 #pragma once
 
-#include "engine/compute_options.h"
+#include "engine/fit_options.h"
 
 namespace tavimor::bench {
 

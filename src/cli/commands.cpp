@@ -2,45 +2,44 @@
 
 #include "cli/fitting.h"
 #include "cli/output.h"
-#include "engine/Compute.h"
-#include "formats/save_problem.h"
+#include "formats/problem_writer.h"
 #include "model/capture_specs.h"
+#include "report/listing.h"
+#include "report/no_fit_text.h"
 #include "report/report_lines.h"
-#include "runtime/run_time_error.h"
+#include "runtime/failure.h"
 
 namespace tavimor {
 
 ExitCode fitCommand(const std::string& problem, const std::string& output) {
-  OpenedProblem opened(problem);
-  const auto item = fitShowingProgress(opened);
-  if (!opened.model.FitDone) {
-    if (item)
-      printLine(*item);
-    else
-      complain(problem, reasonForNoFit(opened.model));
-    finishOutput();
-    return ExitCode::NoFit;
-  }
-  ShowResults(opened.model, printLine);
+  OpenedProblem opened = openProblem(problem);
+  const FitOutcome outcome = fitShowingProgress(opened);
+  if (outcome.end == FitEnd::Singular)
+    printLine(kSingularMatrix);
+  else if (outcome.end != FitEnd::Found)
+    complain(problem, reasonForNoFit(opened.problem, outcome));
+  else
+    ShowResults(opened.problem, opened.fit, printLine);
   finishOutput();
-  if (!output.empty()) SaveProblem(opened.model, opened.fields, output);
+  if (outcome.end != FitEnd::Found) return ExitCode::NoFit;
+  if (!output.empty()) writeProblem(opened.problem, opened.fit, output);
   return ExitCode::Success;
 }
 
 ExitCode showCommand(const std::string& problem) {
-  OpenedProblem opened(problem);
-  for (Long k = 0; k <= opened.model.LastVar; ++k) variableLines(opened.model, k, printLine);
-  if (opened.model.FitDone) ShowResults(opened.model, printLine);
+  const OpenedProblem opened = openProblem(problem);
+  for (Long k = 0; k <= opened.problem.LastVar; ++k) variableLines(opened.problem, k, printLine);
+  if (opened.fit.FitDone) ShowResults(opened.problem, opened.fit, printLine);
   finishOutput();
   return ExitCode::Success;
 }
 
 ExitCode reportCommand(const std::string& problem) {
-  OpenedProblem opened(problem);
-  CaptureSpecs(opened.model, opened.fields);
+  OpenedProblem opened = openProblem(problem);
+  CaptureSpecs(opened.problem, opened.fields);
   try {
-    reportLines(opened.model, printLine);
-  } catch (const RunTimeError&) {
+    reportLines(opened.problem, opened.fit, printLine);
+  } catch (const Failure&) {
     finishOutput();
     throw;
   }
@@ -49,8 +48,9 @@ ExitCode reportCommand(const std::string& problem) {
 }
 
 ExitCode copyCommand(const std::string& problem, const std::string& output) {
-  OpenedProblem opened(problem);
-  SaveProblem(opened.model, opened.fields, output);
+  OpenedProblem opened = openProblem(problem);
+  CaptureSpecs(opened.problem, opened.fields);
+  writeProblem(opened.problem, opened.fit, output);
   return ExitCode::Success;
 }
 

@@ -5,9 +5,9 @@
 #include "cli/input_lines.h"
 #include "cli/output.h"
 #include "cli/point.h"
-#include "engine/Compute.h"
-#include "engine/evaluate.h"
+#include "engine/polynomial.h"
 #include "platform/terminal.h"
+#include "report/no_fit_text.h"
 #include "runtime/bad_file.h"
 #include "runtime/number_text.h"
 #include "runtime/text.h"
@@ -18,15 +18,15 @@ namespace {
 
 constexpr std::size_t kExcerptBytes = 40;
 
-std::string variableNames(const Dimension& model) {
-  std::string names = model.VarName[0];
-  for (Long v = 1; v <= model.LastVar; ++v) names += ", " + model.VarName[v];
+std::string variableNames(const Problem& problem) {
+  std::string names = problem.VarName[0];
+  for (Long v = 1; v <= problem.LastVar; ++v) names += ", " + problem.VarName[v];
   return names;
 }
 
-std::string expectedPoint(const Dimension& model) {
-  if (model.LastVar == 0) return "one number, for " + variableNames(model);
-  return numberText(model.LastVar + 1) + " numbers, one each for " + variableNames(model);
+std::string expectedPoint(const Problem& problem) {
+  if (problem.LastVar == 0) return "one number, for " + variableNames(problem);
+  return numberText(problem.LastVar + 1) + " numbers, one each for " + variableNames(problem);
 }
 
 // The text in quotes, fit for one line of a message.
@@ -37,11 +37,11 @@ std::string quoted(std::string_view text) {
   return '"' + excerpt + '"';
 }
 
-PerVariable<double> pointFromArguments(const Dimension& model, const std::vector<std::string>& values) {
-  const std::string expected = "expected " + expectedPoint(model) + ", found ";
-  if (std::ssize(values) != model.LastVar + 1) throw UsageError(expected + std::to_string(values.size()));
+PerVariable<double> pointFromArguments(const Problem& problem, const std::vector<std::string>& values) {
+  const std::string expected = "expected " + expectedPoint(problem) + ", found ";
+  if (std::ssize(values) != problem.LastVar + 1) throw UsageError(expected + std::to_string(values.size()));
   PerVariable<double> point{};
-  for (Long v = 0; v <= model.LastVar; ++v) {
+  for (Long v = 0; v <= problem.LastVar; ++v) {
     const auto value = parsePoint(values[v], 1);
     if (!value) throw UsageError(expected + quoted(values[v]));
     point[v] = (*value)[0];
@@ -49,52 +49,50 @@ PerVariable<double> pointFromArguments(const Dimension& model, const std::vector
   return point;
 }
 
-void printEstimate(Dimension& model, const PerVariable<double>& point) {
-  for (Long k = 0; k <= model.LastVar; ++k) {
-    model.x[k] = point[k];
-    model.t[k] = model.x[k] - model.Centre[k];
-  }
-  Evaluate(model);
-  printLine(numberText(model.S3));
+void printEstimate(const OpenedProblem& opened, const PerVariable<double>& point) {
+  const Problem& problem = opened.problem;
+  printLine(numberText(valueAt(opened.fit.Coef, problem.TrigFlag, offsetsFrom(problem.Centre, point))));
 }
 
-void evaluateInput(Dimension& model) {
-  if (standardInputIsTerminal()) std::fprintf(stderr, "Type points, one a line: %s.\n", expectedPoint(model).c_str());
+void evaluateInput(const OpenedProblem& opened) {
+  const Problem& problem = opened.problem;
+  if (standardInputIsTerminal()) std::fprintf(stderr, "Type points, one a line: %s.\n", expectedPoint(problem).c_str());
   // The estimates of all lines that have come are seen before the program waits for the next one.
   InputLines lines(finishOutput);
   long number = 0;
   while (const auto line = lines.next()) {
     ++number;
-    const auto point = parsePoint(*line, model.LastVar + 1);
+    const auto point = parsePoint(*line, problem.LastVar + 1);
     if (!point) {
       finishOutput();
       std::string_view found = *line;
       if (found.ends_with('\r')) found.remove_suffix(1);
-      throw BadFile("standard input", number, expectedPoint(model), quoted(found));
+      throw BadFile("standard input", number, expectedPoint(problem), quoted(found));
     }
-    printEstimate(model, *point);
+    printEstimate(opened, *point);
   }
 }
 
 // False where there is no fit to evaluate, which the user has been told then.
-bool provideFit(OpenedProblem& problem) {
-  if (problem.model.FitDone) return true;
-  const auto item = fitShowingProgress(problem);
-  if (!problem.model.FitDone) complain(problem.path, item ? *item : reasonForNoFit(problem.model));
-  return problem.model.FitDone;
+bool provideFit(OpenedProblem& opened, const std::string& path) {
+  if (opened.fit.FitDone) return true;
+  const FitOutcome outcome = fitShowingProgress(opened);
+  if (outcome.end == FitEnd::Found) return true;
+  complain(path, reasonForNoFit(opened.problem, outcome));
+  return false;
 }
 
 }  // namespace
 
 ExitCode evalCommand(const std::string& problem, const std::vector<std::string>& values) {
-  OpenedProblem opened(problem);
+  OpenedProblem opened = openProblem(problem);
   PerVariable<double> point{};
-  if (!values.empty()) point = pointFromArguments(opened.model, values);
-  if (!provideFit(opened)) return ExitCode::NoFit;
+  if (!values.empty()) point = pointFromArguments(opened.problem, values);
+  if (!provideFit(opened, problem)) return ExitCode::NoFit;
   if (values.empty())
-    evaluateInput(opened.model);
+    evaluateInput(opened);
   else
-    printEstimate(opened.model, point);
+    printEstimate(opened, point);
   finishOutput();
   return ExitCode::Success;
 }

@@ -1,20 +1,20 @@
 #include "cli/fitting.h"
 
+#include <utility>
+
 #include "cli/progress_bar.h"
-#include "engine/Compute.h"
 #include "model/capture_specs.h"
 
 namespace tavimor {
 
-std::optional<std::string> fitShowingProgress(OpenedProblem& problem) {
-  CaptureSpecs(problem.model, problem.fields);
+FitOutcome fitShowingProgress(OpenedProblem& opened) {
+  CaptureSpecs(opened.problem, opened.fields);
   ProgressBar bar;
-  ComputeOptions options;
+  FitOptions options;
   options.progress = [&](double share) { bar.show(share); };
-  std::optional<std::string> item;
-  Compute(
-      problem.model, [&](const std::string& line) { item = line; }, options);
-  return item;
+  FitOutcome outcome = fit(opened.problem, options, opened.fit);
+  opened.fit = std::exchange(outcome.fit, {});
+  return outcome;
 }
 
 }  // namespace tavimor

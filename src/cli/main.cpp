@@ -4,7 +4,6 @@
 #include "cli/arguments.h"
 #include "cli/commands.h"
 #include "cli/output.h"
-#include "runtime/bad_file.h"
 #include "runtime/run_time_error.h"
 
 namespace {
@@ -31,10 +30,8 @@ ExitCode runReporting(const Arguments& arguments) {
     complain(arguments.problem, error.what());
     std::fputs(helpOfCommand(arguments.command).c_str(), stderr);
     return ExitCode::Usage;
-  } catch (const BadFile& error) {
-    return fail(error.path, error.what());
-  } catch (const RunTimeError& error) {
-    return fail(error.path().empty() ? arguments.problem : error.path(), error.report());
+  } catch (const Failure& failure) {
+    return fail(failure.path().empty() ? arguments.problem : failure.path(), failure.report());
   } catch (const std::bad_alloc&) {
     return fail(arguments.problem, RunTimeError(ErrorNumber::OutOfMemory).report());
   }

@@ -3,7 +3,7 @@
 #include <optional>
 #include <string_view>
 
-#include "model/Dimension.h"
+#include "model/table4.h"
 
 namespace tavimor {
 

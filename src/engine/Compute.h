@@ -1,21 +1,22 @@
 #pragma once
 
-#include <string>
-
-#include "engine/compute_options.h"
-#include "report/results_text.h"
+#include "engine/fit.h"
+#include "model/Dimension.h"
+#include "runtime/line_sink.h"
 
 namespace tavimor {
 
-/// Runs the whole fit: the equally spaced values, the right-hand side, the solution along one variable after the
-/// other, the fitted values and the statistics. The specifications must have been captured.
+/// Regenerates the equally spaced values and fits the problem of the model, in the model. The specifications must have
+/// been captured.
 ///
 /// Signals: FitDone, and the single item "YIELDS SINGULAR MATRIX." for `addItem` where a variable's system has an
 /// exact zero on its diagonal. Any other failure is silent: FitDone stays false and ErrNumber holds the number.
 /// Errors: none, but for one in regenerating the values, which is not the fit's to handle.
-void Compute(Dimension& model, const LineSink& addItem, const ComputeOptions& options = {});
+void Compute(Dimension& model, const LineSink& addItem, const FitOptions& options = {});
 
-/// Why the last Compute gave no fit although no system was singular; for people.
-std::string reasonForNoFit(const Dimension& model);
+/// Sets the estimate S3 to the value of the fit at the point whose offsets t[k] = x[k] - Centre[k] the caller has set.
+/// Without a fit nothing is computed and S3 keeps the earlier estimate. Leaves I0 to I3 where the loops over the terms
+/// end.
+void Evaluate(Dimension& model);
 
 }  // namespace tavimor

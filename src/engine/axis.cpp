@@ -5,11 +5,17 @@
 
 namespace tavimor {
 
-Axis axisOf(const Dimension& model, Long k) {
-  const std::vector<double>& values = valueList(model, k);
-  if (model.LastPoint[k] < 0 || std::ssize(values) <= model.LastPoint[k])
+Axis axisOf(const Problem& problem, Long k) {
+  const std::vector<double>& values = valueList(problem, k);
+  if (problem.LastPoint[k] < 0 || std::ssize(values) <= problem.LastPoint[k])
     throw RunTimeError(ErrorNumber::SubscriptOutOfRange);
-  return {values.data(), static_cast<std::size_t>(model.LastPoint[k]) + 1, model.Centre[k]};
+  return {values.data(), static_cast<std::size_t>(problem.LastPoint[k]) + 1, problem.Centre[k]};
+}
+
+PerVariable<Axis> axesOf(const Problem& problem) {
+  PerVariable<Axis> axes{};
+  for (Long k = 0; k < kMaxVariables; ++k) axes[k] = axisOf(problem, k);
+  return axes;
 }
 
 }  // namespace tavimor

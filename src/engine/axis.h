@@ -2,7 +2,7 @@
 
 #include <cstddef>
 
-#include "model/Dimension.h"
+#include "model/problem.h"
 
 namespace tavimor {
 
@@ -15,6 +15,9 @@ struct Axis {
 
 /// The axis of variable k, declared or not, with LastPoint[k] + 1 values.
 /// Errors: SubscriptOutOfRange where the value list is shorter than that.
-Axis axisOf(const Dimension& model, Long k);
+Axis axisOf(const Problem& problem, Long k);
+
+/// The axes of all four variables. Errors: as axisOf.
+PerVariable<Axis> axesOf(const Problem& problem);
 
 }  // namespace tavimor

@@ -34,9 +34,9 @@ void addPlainly(const Axis& axis, Gram& gram) {
 
 Gram::Gram(Long degree) : degree_(degree), elements_(matrixSize(degree)) {}
 
-Gram normalMatrix(const Dimension& model, Long k, const ComputeOptions& options) {
-  Gram gram(model.Degree[k]);
-  const Axis axis = axisOf(model, k);
+Gram normalMatrix(const Problem& problem, Long k, const FitOptions& options) {
+  Gram gram(problem.Degree[k]);
+  const Axis axis = axisOf(problem, k);
   if (const LaneSums* lanes = laneSums(options.instructionSet)) {
     const std::size_t terms = static_cast<std::size_t>(gram.degree()) + 1;
     std::vector<double> sums(lanes->normalSumCount(terms));

@@ -2,8 +2,8 @@
 
 #include <vector>
 
-#include "engine/compute_options.h"
-#include "model/Dimension.h"
+#include "engine/fit_options.h"
+#include "model/problem.h"
 
 namespace tavimor {
 
@@ -32,6 +32,6 @@ class Gram {
 /// is one chain over the values in their order.
 /// The matrix of the whole fit is the Kronecker product of those of its variables, which is never formed.
 /// Source: Björck, Numerical Methods for Least Squares Problems, 1996, ch. 8 (tensor-product problems).
-Gram normalMatrix(const Dimension& model, Long k, const ComputeOptions& options = {});
+Gram normalMatrix(const Problem& problem, Long k, const FitOptions& options = {});
 
 }  // namespace tavimor

@@ -3,7 +3,7 @@
 #include <cstddef>
 
 #include "engine/axis.h"
-#include "engine/compute_options.h"
+#include "engine/fit_options.h"
 
 namespace tavimor {
 
@@ -15,8 +15,8 @@ namespace tavimor {
 /// of terms (degree + 1) of each.
 struct TermGrid {
   const double* f;
-  Axis axis[4];
-  std::size_t terms[4];
+  PerVariable<Axis> axis;
+  PerVariable<std::size_t> terms;
 
   /// The first axis whose powers are spread over the lanes, 1 or 2. The powers of the axes before it are run through
   /// in turn by each lane.
@@ -34,7 +34,7 @@ struct LaneSums {
   std::size_t lanes;
 
   /// The lane axis that gives the least work for these terms.
-  std::size_t (*bestLaneAxis)(const std::size_t terms[4]);
+  std::size_t (*bestLaneAxis)(const PerVariable<std::size_t>& terms);
 
   /// The number of sums that a range of columns needs, padding included.
   std::size_t (*sumCount)(const TermGrid& grid, Columns columns);

@@ -60,10 +60,8 @@ void accumulatePlainly(const Table4& f, const Axes& axis, Table4& coef) {
 TermGrid termGrid(const LaneSums& lanes, const Table4& f, const Axes& axis, const Table4& coef) {
   TermGrid grid{};
   grid.f = f.data();
-  for (int k = 0; k < kMaxVariables; ++k) {
-    grid.axis[k] = axis[k];
-    grid.terms[k] = coef.extent(k);
-  }
+  grid.axis = axis;
+  for (int k = 0; k < kMaxVariables; ++k) grid.terms[k] = coef.extent(k);
   grid.laneAxis = lanes.bestLaneAxis(grid.terms);
   return grid;
 }
@@ -79,7 +77,7 @@ void accumulateColumns(const LaneSums& lanes, const TermGrid& grid, Columns colu
 }
 
 void accumulateInLanes(const LaneSums& lanes, const Table4& f, const Axes& axis, Table4& coef,
-                       const ComputeOptions& options) {
+                       const FitOptions& options) {
   const TermGrid grid = termGrid(lanes, f, axis, coef);
   const std::size_t columns = coef.size() / coef.stride(static_cast<int>(grid.laneAxis));
   const std::size_t groups = (columns + lanes.lanes - 1) / lanes.lanes;  // full ones, as far as there are
@@ -92,15 +90,16 @@ void accumulateInLanes(const LaneSums& lanes, const Table4& f, const Axes& axis,
 
 }  // namespace
 
-void accumulateRightHandSide(Dimension& model, const ComputeOptions& options) {
-  if (model.F.last() != model.LastPoint) throw RunTimeError(ErrorNumber::SubscriptOutOfRange);
-  Axes axis{};
-  for (Long k = 0; k < kMaxVariables; ++k) axis[k] = axisOf(model, k);
-  model.Coef.redim(model.Degree);
+Table4 rightHandSide(const Problem& problem, const FitOptions& options) {
+  if (problem.F.last() != problem.LastPoint) throw RunTimeError(ErrorNumber::SubscriptOutOfRange);
+  const Axes axis = axesOf(problem);
+  Table4 sums;
+  sums.redim(problem.Degree);
   if (const LaneSums* lanes = laneSums(options.instructionSet))
-    accumulateInLanes(*lanes, model.F, axis, model.Coef, options);
+    accumulateInLanes(*lanes, problem.F, axis, sums, options);
   else
-    accumulatePlainly(model.F, axis, model.Coef);
+    accumulatePlainly(problem.F, axis, sums);
+  return sums;
 }
 
 }  // namespace tavimor

@@ -114,18 +114,20 @@ GridSums sumOverGrid(const Table4& f, const Table4& fitGrid, double avgGiven) {
   return sums.sums();
 }
 
-void fitStatistics(Dimension& model, double sumGiven) {
-  const Long n = model.NumGridPoints;
-  resumeNext(model, [&] { model.AvgGiven = quotient(sumGiven, n); });
-  const GridSums sums = sumOverGrid(model.F, model.FitGrid, model.AvgGiven);
-  model.SumRes2 = sums.SumRes2;
-  resumeNext(model, [&] { model.AvgEstimated = quotient(sums.SumEstimated, n); });
-  if (sums.SumSqTotal == 0.0)
-    model.CorrCoef = 1.0;
-  else
-    resumeNext(model, [&] { model.CorrCoef = squareRoot(quotient(sums.SumSqRegression, sums.SumSqTotal)); });
-  // N - 2 in whole numbers first: with two points this divides by zero and leaves the previous value.
-  resumeNext(model, [&] { model.StdErr = squareRoot(quotient(sums.SumRes2, addLongs(n, -2))); });
+StatisticsOutcome fitStatistics(const Table4& f, const Table4& fitGrid, double sumGiven, Long n,
+                                const Statistics& earlier) {
+  StatisticsOutcome outcome{earlier};
+  Statistics& figures = outcome.figures;
+  const auto set = [&](double& figure, auto formula) { resumeNext(outcome.ErrNumber, [&] { figure = formula(); }); };
+  set(figures.AvgGiven, [&] { return quotient(sumGiven, n); });
+  const GridSums sums = sumOverGrid(f, fitGrid, figures.AvgGiven);
+  figures.SumRes2 = sums.SumRes2;
+  set(figures.AvgEstimated, [&] { return quotient(sums.SumEstimated, n); });
+  set(figures.CorrCoef,
+      [&] { return sums.SumSqTotal == 0.0 ? 1.0 : squareRoot(quotient(sums.SumSqRegression, sums.SumSqTotal)); });
+  // n - 2 in whole numbers first: with two points this divides by zero and leaves the previous value.
+  set(figures.StdErr, [&] { return squareRoot(quotient(sums.SumRes2, addLongs(n, -2))); });
+  return outcome;
 }
 
 }  // namespace tavimor

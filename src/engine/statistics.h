@@ -1,7 +1,7 @@
 #pragma once
 
-#include "engine/compute_options.h"
-#include "model/Dimension.h"
+#include "model/fit.h"
+#include "runtime/run_time_error.h"
 
 namespace tavimor {
 
@@ -18,12 +18,18 @@ struct GridSums {
 };
 GridSums sumOverGrid(const Table4& f, const Table4& fitGrid, double avgGiven);
 
-/// Sets the statistics from F and FitGrid, N being NumGridPoints:
-///   AvgGiven = sum f / N,   AvgEstimated = sum e / N,   SumRes2,
+/// The statistics, and the run-time error of the last figure that has no value, 0 where all have one.
+struct StatisticsOutcome {
+  Statistics figures;
+  Long ErrNumber = 0;
+};
+
+/// The statistics of n points:
+///   AvgGiven = sumGiven / n,   AvgEstimated = sum e / n,   SumRes2,
 ///   CorrCoef = sqrt(SumSqRegression / SumSqTotal), not clipped, and 1 where SumSqTotal is exactly 0,
-///   StdErr   = sqrt(SumRes2 / (N - 2)); the divisor is N - 2 whatever the number of terms.
-/// With N = 2, and with N = 1 unless SumRes2 is 0, StdErr has no value: it keeps the earlier one and ErrNumber says
-/// why.
-void fitStatistics(Dimension& model, double sumGiven);
+///   StdErr   = sqrt(SumRes2 / (n - 2)); the divisor is n - 2 whatever the number of terms.
+/// A figure that has no value stays what it is in `earlier`: StdErr with n = 2, and with n = 1 unless SumRes2 is 0.
+StatisticsOutcome fitStatistics(const Table4& f, const Table4& fitGrid, double sumGiven, Long n,
+                                const Statistics& earlier);
 
 }  // namespace tavimor

@@ -1,13 +1,17 @@
 #include "formats/open_problem.h"
 
+#include <utility>
+
 #include "formats/problem_reader.h"
 
 namespace tavimor {
 
-void openProblem(const std::string& path, Dimension& model, AllSpecFields& fields) {
-  const CentreTexts centres = readProblem(path, model);
-  for (Long v = 0; v < kMaxVariables; ++v) fields[v].txtExpansion = centres[v];
-  SetDisplayedSpecs(model, fields);
+OpenedProblem openProblem(const std::string& path) {
+  StoredProblem stored = readProblem(path);
+  AllSpecFields fields;
+  SetDisplayedSpecs(stored.problem, fields);
+  for (Long v = 0; v < kMaxVariables; ++v) fields[v].txtExpansion = stored.centres[v];
+  return {std::move(stored.problem), std::move(stored.fit), std::move(fields)};
 }
 
 }  // namespace tavimor

@@ -2,12 +2,19 @@
 
 #include <string>
 
+#include "model/fit.h"
 #include "model/spec_fields.h"
 
 namespace tavimor {
 
-/// Reads a problem pair into the model and shows its specifications in the fields, the centre texts as they stand in
-/// the file. All or nothing. Errors: as readProblem.
-void openProblem(const std::string& path, Dimension& model, AllSpecFields& fields);
+/// A problem as the window holds it after its Open command.
+struct OpenedProblem {
+  Problem problem;
+  Fit fit;
+  AllSpecFields fields;  // they show the specifications, the centres as they stand in the file
+};
+
+/// Reads a problem pair. Errors: as readProblem.
+OpenedProblem openProblem(const std::string& path);
 
 }  // namespace tavimor

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <numbers>
 #include <optional>
 #include <span>
 #include <utility>
@@ -46,50 +47,49 @@ void readInOrder(InputFile& file, const char* item, double* target, std::size_t 
   });
 }
 
-std::string readRecord(InputFile& file, Dimension& model, Long v) {
-  model.VarName[v] = file.readText("the name of a variable");
-  model.LowerLimit[v] = file.readDouble("the lower limit");
-  model.UpperLimit[v] = file.readDouble("the upper limit");
+std::string readRecord(InputFile& file, Problem& problem, Long v) {
+  problem.VarName[v] = file.readText("the name of a variable");
+  problem.LowerLimit[v] = file.readDouble("the lower limit");
+  problem.UpperLimit[v] = file.readDouble("the upper limit");
   std::string centre = file.readText("the centre of expansion");
-  model.Centre[v] = centreFromText(centre, model.LowerLimit[v], model.UpperLimit[v]);
-  model.PeriodFlag[v] = file.readBoolean("the period flag");
+  problem.Centre[v] = centreFromText(centre, problem.LowerLimit[v], problem.UpperLimit[v]);
+  problem.PeriodFlag[v] = file.readBoolean("the period flag");
   const std::string period = file.readText("the period");
-  model.Period[v] = period == "*" ? model.Pi + model.Pi : Val(period);
-  model.Degree[v] = file.readLong("the degree", 0, kMostLastIndex);
+  problem.Period[v] = period == "*" ? 2 * std::numbers::pi : Val(period);
+  problem.Degree[v] = file.readLong("the degree", 0, kMostLastIndex);
   return centre;
 }
 
-void readCoefficients(InputFile& file, Dimension& model) {
-  requireRoom(file, model.Degree, "coefficients");
-  model.Coef.redim(model.Degree);
-  readInOrder(file, "a coefficient", model.Coef.data(), model.Coef.size());  // first index fastest, as in memory
+void readCoefficients(InputFile& file, const PerVariable<Long>& Degree, Table4& Coef) {
+  requireRoom(file, Degree, "coefficients");
+  Coef.redim(Degree);
+  readInOrder(file, "a coefficient", Coef.data(), Coef.size());  // first index fastest, as in memory
 }
 
-CentreTexts readSpecification(const std::string& path, Dimension& model) {
+void readSpecification(const std::string& path, StoredProblem& stored) {
   InputFile file(path);
-  CentreTexts centres;
-  model.LastVar = readLastVar(file);
-  for (Long v = 0; v <= model.LastVar; ++v) centres[v] = readRecord(file, model, v);
-  model.FitDone = file.readBoolean("whether there is a fit");
-  if (model.FitDone) readCoefficients(file, model);
+  Problem& problem = stored.problem;
+  problem.LastVar = readLastVar(file);
+  for (Long v = 0; v <= problem.LastVar; ++v) stored.centres[v] = readRecord(file, problem, v);
+  stored.fit.FitDone = file.readBoolean("whether there is a fit");
+  if (stored.fit.FitDone) readCoefficients(file, problem.Degree, stored.fit.Coef);
   file.expectEnd();
-  return centres;
 }
 
-void readCounts(InputFile& file, Dimension& model) {
-  for (Long v = 0; v <= model.LastVar; ++v) {
-    model.LastPoint[v] = file.readLong("the number of values less one", 0, kMostLastIndex);
-    model.EquallySpaced[v] = file.readBoolean("whether the values are equally spaced");
-    model.ValuesGiven[v] = true;
+void readCounts(InputFile& file, Problem& problem) {
+  for (Long v = 0; v <= problem.LastVar; ++v) {
+    problem.LastPoint[v] = file.readLong("the number of values less one", 0, kMostLastIndex);
+    problem.EquallySpaced[v] = file.readBoolean("whether the values are equally spaced");
+    problem.ValuesGiven[v] = true;
   }
-  requireRoom(file, model.LastPoint, "function values");
+  requireRoom(file, problem.LastPoint, "function values");
 }
 
-void readValueLists(InputFile& file, Dimension& model) {
+void readValueLists(InputFile& file, Problem& problem) {
   for (Long d = 0; d < kMaxVariables; ++d) {
-    ResizeVarValues(model, d);
-    if (model.LastPoint[d] != 0)
-      readInOrder(file, "a value of a variable", valueList(model, d).data(), valueList(model, d).size());
+    ResizeVarValues(problem, d);
+    if (problem.LastPoint[d] != 0)
+      readInOrder(file, "a value of a variable", valueList(problem, d).data(), valueList(problem, d).size());
   }
 }
 
@@ -135,74 +135,48 @@ class TableFiller {
   std::size_t at_ = 0;
 };
 
-void readFunction(InputFile& file, Dimension& model) {
-  model.F.redim(model.LastPoint);
-  TableFiller filler(model.F);
-  file.readDoubles("a value of the function", model.F.size(),
+void readFunction(InputFile& file, Problem& problem) {
+  problem.F.redim(problem.LastPoint);
+  TableFiller filler(problem.F);
+  file.readDoubles("a value of the function", problem.F.size(),
                    [&](std::span<const double> numbers) { filler.put(numbers); });
 }
 
-void readStatistics(InputFile& file, Dimension& model) {
-  model.NumGridPoints = file.readLong("the number of grid points");
-  model.CorrCoef = file.readDouble("the correlation coefficient");
-  model.StdErr = file.readDouble("the standard error");
-  model.SumRes2 = file.readDouble("the sum of squared residuals");
-  model.AvgGiven = file.readDouble("the average of the given values");
-  model.AvgEstimated = file.readDouble("the average of the estimated values");
+void readStatistics(InputFile& file, StoredProblem& stored) {
+  stored.problem.NumGridPoints = file.readLong("the number of grid points");
+  stored.fit.CorrCoef = file.readDouble("the correlation coefficient");
+  stored.fit.StdErr = file.readDouble("the standard error");
+  stored.fit.SumRes2 = file.readDouble("the sum of squared residuals");
+  stored.fit.AvgGiven = file.readDouble("the average of the given values");
+  stored.fit.AvgEstimated = file.readDouble("the average of the estimated values");
 }
 
 // The number of variables in the values file holds: where it is the smaller one, the further variables go, and with
 // them the coefficients of all their powers but the lowest.
-void forgetFurtherVariables(Dimension& model) {
-  for (Long v = model.LastVar + 1; v < kMaxVariables; ++v) {
-    model.VarName[v].clear();
-    model.LowerLimit[v] = model.UpperLimit[v] = model.Centre[v] = model.Period[v] = 0.0;
-    model.PeriodFlag[v] = false;
-    model.Degree[v] = 0;
-  }
-  if (model.FitDone) model.Coef.resizeKeeping(model.Degree);
+void takeLastVar(Long lastVar, StoredProblem& stored) {
+  stored.problem.LastVar = lastVar;
+  for (Long v = lastVar + 1; v < kMaxVariables; ++v) ClearVariable(stored.problem, v);
+  if (stored.fit.FitDone) stored.fit.Coef.resizeKeeping(stored.problem.Degree);
 }
 
-void readValues(const std::string& path, Dimension& model) {
+void readValues(const std::string& path, StoredProblem& stored) {
   InputFile file(path);
-  model.LastVar = readLastVar(file);
-  forgetFurtherVariables(model);
-  readCounts(file, model);
-  readValueLists(file, model);
-  readFunction(file, model);
-  if (model.FitDone) readStatistics(file, model);
+  takeLastVar(readLastVar(file), stored);
+  readCounts(file, stored.problem);
+  readValueLists(file, stored.problem);
+  readFunction(file, stored.problem);
+  if (stored.fit.FitDone) readStatistics(file, stored);
   file.expectEnd();
-}
-
-// What is not part of a problem: the state of the run.
-void keepRunState(Dimension& opened, const Dimension& model) {
-  opened.CurVar = model.CurVar;
-  opened.LoadingFile = model.LoadingFile;
-  opened.Updating = model.Updating;
-  opened.x = model.x;
-  opened.t = model.t;
-  opened.S3 = model.S3;
-  opened.FileName = model.FileName;
-  opened.WorkDir = model.WorkDir;
-  opened.V = model.V;
-  if (opened.FitDone) return;
-  opened.CorrCoef = model.CorrCoef;
-  opened.StdErr = model.StdErr;
-  opened.SumRes2 = model.SumRes2;
-  opened.AvgGiven = model.AvgGiven;
-  opened.AvgEstimated = model.AvgEstimated;
 }
 
 }  // namespace
 
-CentreTexts readProblem(const std::string& path, Dimension& model) {
-  Dimension opened;
+StoredProblem readProblem(const std::string& path) {
+  StoredProblem stored;
   const PairPaths pair = readablePair(path);
-  CentreTexts centres = readSpecification(pair.specification, opened);
-  readValues(pair.values, opened);
-  keepRunState(opened, model);
-  model = std::move(opened);
-  return centres;
+  readSpecification(pair.specification, stored);
+  readValues(pair.values, stored);
+  return stored;
 }
 
 }  // namespace tavimor

@@ -2,20 +2,26 @@
 
 #include <string>
 
-#include "model/Dimension.h"
+#include "model/fit.h"
+#include "model/problem.h"
 
 namespace tavimor {
 
 /// The text that stands in the centre field of each variable's record.
 using CentreTexts = PerVariable<std::string>;
 
-/// Reads the problem pair `path` and `path`.dat into the model and returns the centre texts.
+/// A problem as its files hold it. The fit is there where the files have one; without its fitted values.
+struct StoredProblem {
+  Problem problem;
+  Fit fit;
+  CentreTexts centres;
+};
+
+/// Reads the problem pair `path` and `path`.dat.
 ///
-/// Replaces what a problem consists of: the per-variable entries, the values, F, FitDone and, where the file holds a
-/// fit, Coef and the statistics. All or nothing: on any error the model stays as it was.
 /// The number of variables stands in both files, and the one in the values file holds: further variables are forgotten.
 /// Errors: a RunTimeError where the system refuses a file, a BadFile where its content does not fit. No table is
 /// made that is larger than the rest of the file can fill.
-CentreTexts readProblem(const std::string& path, Dimension& model);
+StoredProblem readProblem(const std::string& path);
 
 }  // namespace tavimor

@@ -1,50 +1,43 @@
 #include "formats/problem_writer.h"
 
 #include "formats/file_pair.h"
+#include "model/grid_indices.h"
 #include "model/value_lists.h"
 
 namespace tavimor {
 
 namespace {
 
-void writeSpecification(const Dimension& model, OutputFile& file) {
-  file.print(model.LastVar);
-  for (Long v = 0; v <= model.LastVar; ++v)
-    file.write(model.VarName[v], model.LowerLimit[v], model.UpperLimit[v], model.Centre[v], model.PeriodFlag[v],
-               model.Period[v], model.Degree[v]);
-  file.write(model.FitDone);
-  if (!model.FitDone) return;
-  for (std::size_t n = 0; n < model.Coef.size(); ++n) file.print(model.Coef.data()[n]);  // first index fastest
+void writeSpecification(const Problem& problem, const Fit& fit, OutputFile& file) {
+  file.print(problem.LastVar);
+  for (Long v = 0; v <= problem.LastVar; ++v)
+    file.write(problem.VarName[v], problem.LowerLimit[v], problem.UpperLimit[v], problem.Centre[v],
+               problem.PeriodFlag[v], problem.Period[v], problem.Degree[v]);
+  file.write(fit.FitDone);
+  if (!fit.FitDone) return;
+  for (std::size_t n = 0; n < fit.Coef.size(); ++n) file.print(fit.Coef.data()[n]);  // first index fastest
 }
 
-// The table stands in the file with the last index fastest.
-void writeFunction(const Dimension& model, OutputFile& file) {
-  for (Long i0 = 0; i0 <= model.LastPoint[0]; ++i0)
-    for (Long i1 = 0; i1 <= model.LastPoint[1]; ++i1)
-      for (Long i2 = 0; i2 <= model.LastPoint[2]; ++i2)
-        for (Long i3 = 0; i3 <= model.LastPoint[3]; ++i3) file.print(model.F(i0, i1, i2, i3));
-}
-
-void writeValues(const Dimension& model, OutputFile& file) {
-  file.print(model.LastVar);
-  for (Long v = 0; v <= model.LastVar; ++v) {
-    file.print(model.LastPoint[v]);
-    file.write(model.EquallySpaced[v]);
+void writeValues(const Problem& problem, const Fit& fit, OutputFile& file) {
+  file.print(problem.LastVar);
+  for (Long v = 0; v <= problem.LastVar; ++v) {
+    file.print(problem.LastPoint[v]);
+    file.write(problem.EquallySpaced[v]);
   }
   for (Long d = 0; d < kMaxVariables; ++d)
-    if (model.LastPoint[d] != 0)
-      for (const double value : valueList(model, d)) file.print(value);
-  writeFunction(model, file);
-  if (model.FitDone)
-    file.write(model.NumGridPoints, model.CorrCoef, model.StdErr, model.SumRes2, model.AvgGiven, model.AvgEstimated);
+    if (problem.LastPoint[d] != 0)
+      for (const double value : valueList(problem, d)) file.print(value);
+  forEachIndex<Fastest::Last>(problem.LastPoint, [&](const PerVariable<Long>& i) { file.print(problem.F(i)); });
+  if (fit.FitDone)
+    file.write(problem.NumGridPoints, fit.CorrCoef, fit.StdErr, fit.SumRes2, fit.AvgGiven, fit.AvgEstimated);
 }
 
 }  // namespace
 
-void writeProblem(const Dimension& model, const std::string& path, FileSteps& steps) {
+void writeProblem(const Problem& problem, const Fit& fit, const std::string& path, FileSteps& steps) {
   FilePair pair(path, steps);
-  writeSpecification(model, pair.specification());
-  writeValues(model, pair.values());
+  writeSpecification(problem, fit, pair.specification());
+  writeValues(problem, fit, pair.values());
   pair.commit();
 }
 

@@ -9,10 +9,8 @@ bool isVariable(Long v) { return v >= 0 && v < kMaxVariables; }
 }  // namespace
 
 void ClearVariables(Dimension& model) {
-  model.VarName = {};
-  model.LowerLimit = model.UpperLimit = model.Centre = model.Step = model.Period = {};
-  model.Degree = model.LastPoint = model.AddCount = model.StartIdx = {};
-  model.EquallySpaced = model.ValuesGiven = model.PeriodFlag = model.TrigFlag = {};
+  for (Long v = 0; v < kMaxVariables; ++v) ClearVariable(model, v);
+  model.StartIdx = {};
 }
 
 void GetVarX(Dimension& model, Long v, Long i) {
@@ -21,6 +19,13 @@ void GetVarX(Dimension& model, Long v, Long i) {
 
 void SetVarX(Dimension& model, Long v, Long i) {
   if (isVariable(v)) valueOf(model, v, i) = model.VarX;
+}
+
+void setTermIndices(Dimension& model, const PerVariable<Long>& index) {
+  model.I0 = index[0];
+  model.I1 = index[1];
+  model.I2 = index[2];
+  model.I3 = index[3];
 }
 
 }  // namespace tavimor

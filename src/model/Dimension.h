@@ -18,4 +18,7 @@ void ClearVariables(Dimension& model);
 void GetVarX(Dimension& model, Long v, Long i);
 void SetVarX(Dimension& model, Long v, Long i);
 
+/// Puts the indices along the four axes into I0 to I3.
+void setTermIndices(Dimension& model, const PerVariable<Long>& index);
+
 }  // namespace tavimor

@@ -4,6 +4,7 @@
 #include <optional>
 #include <utility>
 
+#include "model/grid_indices.h"
 #include "model/value_lists.h"
 #include "platform/files.h"
 #include "runtime/bad_file.h"
@@ -16,21 +17,15 @@ namespace tavimor {
 namespace {
 
 void writeTable(const Table4& table, OutputFile& file) {
-  const PerVariable<Long>& last = table.last();
-  for (Long i0 = 0; i0 <= last[0]; ++i0)
-    for (Long i1 = 0; i1 <= last[1]; ++i1)
-      for (Long i2 = 0; i2 <= last[2]; ++i2)
-        for (Long i3 = 0; i3 <= last[3]; ++i3) file.print(table(i0, i1, i2, i3));
+  forEachIndex<Fastest::Last>(table.last(), [&](const PerVariable<Long>& index) { file.print(table(index)); });
   file.finish();
 }
 
 void readTable(Table4& table, const PerVariable<Long>& lastRead, const std::string& path) {
   InputFile file(path);
   try {
-    for (Long i0 = 0; i0 <= lastRead[0]; ++i0)
-      for (Long i1 = 0; i1 <= lastRead[1]; ++i1)
-        for (Long i2 = 0; i2 <= lastRead[2]; ++i2)
-          for (Long i3 = 0; i3 <= lastRead[3]; ++i3) table(i0, i1, i2, i3) = file.readDouble("a value of the function");
+    forEachIndex<Fastest::Last>(
+        lastRead, [&](const PerVariable<Long>& index) { table(index) = file.readDouble("a value of the function"); });
   } catch (const BadFile&) {
     throw RunTimeError(ErrorNumber::InputPastEnd, path);
   }

@@ -8,36 +8,36 @@ namespace tavimor {
 
 namespace {
 
-void captureFields(Dimension& model, const SpecFields& fields, Long k) {
-  model.LowerLimit[k] = Val(fields.txtLL);
-  model.UpperLimit[k] = Val(fields.txtUL);
-  model.Degree[k] = ValLong(fields.txtTerms);
-  model.LastPoint[k] = toLong(Val(fields.txtPoints) - 1.0);
-  model.Centre[k] = centreFromText(fields.txtExpansion, model.LowerLimit[k], model.UpperLimit[k]);
-  model.EquallySpaced[k] = fields.chkSpaced;
-  model.PeriodFlag[k] = true;
-  model.TrigFlag[k] = false;
+void captureFields(Problem& problem, const SpecFields& fields, Long k) {
+  problem.LowerLimit[k] = Val(fields.txtLL);
+  problem.UpperLimit[k] = Val(fields.txtUL);
+  problem.Degree[k] = ValLong(fields.txtTerms);
+  problem.LastPoint[k] = toLong(Val(fields.txtPoints) - 1.0);
+  problem.Centre[k] = centreFromText(fields.txtExpansion, problem.LowerLimit[k], problem.UpperLimit[k]);
+  problem.EquallySpaced[k] = fields.chkSpaced;
+  problem.PeriodFlag[k] = true;
+  problem.TrigFlag[k] = false;
 }
 
-double spacing(const Dimension& model, Long k) {
-  if (model.LastPoint[k] == 0) throw RunTimeError(ErrorNumber::DivisionByZero);
-  return (model.UpperLimit[k] - model.LowerLimit[k]) / model.LastPoint[k];
+double spacing(const Problem& problem, Long k) {
+  if (problem.LastPoint[k] == 0) throw RunTimeError(ErrorNumber::DivisionByZero);
+  return (problem.UpperLimit[k] - problem.LowerLimit[k]) / problem.LastPoint[k];
 }
 
 }  // namespace
 
-void CaptureSpecs(Dimension& model, const AllSpecFields& fields) {
-  for (Long k = 0; k <= model.LastVar; ++k) captureFields(model, fields[k], k);
-  model.NumGridPoints = 1;
-  for (Long k = 0; k <= model.LastVar; ++k)
-    model.NumGridPoints = multiplyLongs(addLongs(model.LastPoint[k], 1), model.NumGridPoints);
-  for (Long k = 0; k <= model.LastVar; ++k) model.Step[k] = spacing(model, k);
-  RegenerateSpacedValues(model, spacedMarks(fields));
+void CaptureSpecs(Problem& problem, const AllSpecFields& fields) {
+  for (Long k = 0; k <= problem.LastVar; ++k) captureFields(problem, fields[k], k);
+  problem.NumGridPoints = 1;
+  for (Long k = 0; k <= problem.LastVar; ++k)
+    problem.NumGridPoints = multiplyLongs(addLongs(problem.LastPoint[k], 1), problem.NumGridPoints);
+  for (Long k = 0; k <= problem.LastVar; ++k) problem.Step[k] = spacing(problem, k);
+  RegenerateSpacedValues(problem, spacedMarks(fields));
 }
 
-void RegenerateSpacedValues(Dimension& model, const PerVariable<bool>& spaced) {
-  for (Long k = 0; k <= model.LastVar; ++k)
-    if (spaced[k]) generateSpacedValues(model, k);
+void RegenerateSpacedValues(Problem& problem, const PerVariable<bool>& spaced) {
+  for (Long k = 0; k <= problem.LastVar; ++k)
+    if (spaced[k]) generateSpacedValues(problem, k);
 }
 
 PerVariable<bool> spacedMarks(const AllSpecFields& fields) {

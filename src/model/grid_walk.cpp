@@ -11,36 +11,34 @@ Long nextOnRing(Long index, Long last) { return index + 1 > last ? 0 : index + 1
 
 Long previousOnRing(Long index, Long last) { return index - 1 < 0 ? last : index - 1; }
 
-void moveToNextPoint(Dimension& model) {
-  ++model.StartIdx[model.LastVar];
-  for (Long k = model.LastVar; k >= 0; --k) {
-    if (model.StartIdx[k] <= model.LastPoint[k]) continue;
-    model.StartIdx[k] = 0;
-    if (k > 0) ++model.StartIdx[k - 1];
+PerVariable<Long> nextPoint(const Problem& problem, PerVariable<Long> point) {
+  ++point[problem.LastVar];
+  for (Long k = problem.LastVar; k >= 0; --k) {
+    if (point[k] <= problem.LastPoint[k]) continue;
+    point[k] = 0;
+    if (k > 0) ++point[k - 1];
   }
+  return point;
 }
 
-void moveToPreviousPoint(Dimension& model) {
-  --model.StartIdx[model.LastVar];
-  for (Long k = model.LastVar; k >= 0; --k) {
-    if (model.StartIdx[k] >= 0) continue;
-    model.StartIdx[k] = model.LastPoint[k];
-    if (k > 0) --model.StartIdx[k - 1];
+PerVariable<Long> previousPoint(const Problem& problem, PerVariable<Long> point) {
+  --point[problem.LastVar];
+  for (Long k = problem.LastVar; k >= 0; --k) {
+    if (point[k] >= 0) continue;
+    point[k] = problem.LastPoint[k];
+    if (k > 0) --point[k - 1];
   }
+  return point;
 }
 
-double& functionAtStartIdx(Dimension& model) {
-  return model.F(model.StartIdx[0], model.StartIdx[1], model.StartIdx[2], model.StartIdx[3]);
-}
-
-std::optional<PerVariable<Long>> gridPointFromText(const Dimension& model, std::string_view text) {
+std::optional<PerVariable<Long>> gridPointFromText(const Problem& problem, std::string_view text) {
   PerVariable<Long> point{};
   std::size_t begin = 0;
-  for (Long k = 0; k <= model.LastVar; ++k) {
+  for (Long k = 0; k <= problem.LastVar; ++k) {
     if (begin > text.size()) throw RunTimeError(ErrorNumber::SubscriptOutOfRange);
     const std::size_t end = std::min(text.find(',', begin), text.size());
     const double index = Val(text.substr(begin, end - begin));
-    if (index > model.LastPoint[k]) return std::nullopt;
+    if (index > problem.LastPoint[k]) return std::nullopt;
     point[k] = toLong(index);
     begin = end + 1;
   }

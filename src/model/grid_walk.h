@@ -3,7 +3,7 @@
 #include <optional>
 #include <string_view>
 
-#include "model/Dimension.h"
+#include "model/problem.h"
 
 namespace tavimor {
 
@@ -12,18 +12,14 @@ namespace tavimor {
 Long nextOnRing(Long index, Long last);
 Long previousOnRing(Long index, Long last);
 
-/// Moves StartIdx to the next or the previous grid point of the declared variables: in lexicographic order, the last
+/// The grid point behind or before another one: in lexicographic order of the declared variables' indices, the last
 /// variable fastest, from the last point on to the first one and back.
-void moveToNextPoint(Dimension& model);
-void moveToPreviousPoint(Dimension& model);
-
-/// The function's value at the grid point StartIdx.
-/// Errors: SubscriptOutOfRange for an index beyond its variable's values.
-double& functionAtStartIdx(Dimension& model);
+PerVariable<Long> nextPoint(const Problem& problem, PerVariable<Long> point);
+PerVariable<Long> previousPoint(const Problem& problem, PerVariable<Long> point);
 
 /// The grid point that a text such as "2,0,1" names, one index per declared variable, each rounded to a whole number
 /// with halves to even; nothing where a number is greater than its variable's last index. Negative ones pass.
 /// Errors: SubscriptOutOfRange for fewer parts than variables, Overflow for a part that no Long holds.
-std::optional<PerVariable<Long>> gridPointFromText(const Dimension& model, std::string_view text);
+std::optional<PerVariable<Long>> gridPointFromText(const Problem& problem, std::string_view text);
 
 }  // namespace tavimor

@@ -36,4 +36,7 @@ struct Problem {
   Table4 F;  // the function: F(i0,i1,i2,i3) at the grid point of value number ik of variable k
 };
 
+/// Clears every entry that is kept for variable v, its values excepted.
+void ClearVariable(Problem& problem, Long v);
+
 }  // namespace tavimor

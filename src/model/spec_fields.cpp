@@ -5,13 +5,13 @@
 
 namespace tavimor {
 
-void SetDisplayedSpecs(const Dimension& model, AllSpecFields& fields) {
-  for (Long k = 0; k <= model.LastVar; ++k) {
-    fields[k].txtLL = numberText(model.LowerLimit[k]);
-    fields[k].txtUL = numberText(model.UpperLimit[k]);
-    fields[k].txtTerms = numberText(model.Degree[k]);
-    fields[k].txtPoints = numberText(addLongs(model.LastPoint[k], 1));
-    fields[k].chkSpaced = model.EquallySpaced[k];
+void SetDisplayedSpecs(const Problem& problem, AllSpecFields& fields) {
+  for (Long k = 0; k <= problem.LastVar; ++k) {
+    fields[k].txtLL = numberText(problem.LowerLimit[k]);
+    fields[k].txtUL = numberText(problem.UpperLimit[k]);
+    fields[k].txtTerms = numberText(problem.Degree[k]);
+    fields[k].txtPoints = numberText(addLongs(problem.LastPoint[k], 1));
+    fields[k].chkSpaced = problem.EquallySpaced[k];
   }
 }
 

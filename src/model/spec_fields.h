@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "model/Dimension.h"
+#include "model/problem.h"
 
 namespace tavimor {
 
@@ -20,9 +20,9 @@ struct SpecFields {
 /// The fields of all variables; those beyond LastVar do not count.
 using AllSpecFields = PerVariable<SpecFields>;
 
-/// Shows the model's specifications in the fields of variables 0 to LastVar. The centre's text is left alone: the
+/// Shows the problem's specifications in the fields of variables 0 to LastVar. The centre's text is left alone: the
 /// reader of a problem and the user put it there as it stands.
-void SetDisplayedSpecs(const Dimension& model, AllSpecFields& fields);
+void SetDisplayedSpecs(const Problem& problem, AllSpecFields& fields);
 
 /// The centre that a text gives for an interval: the middle for exactly "*", else the text's Val.
 double centreFromText(const std::string& text, double lowerLimit, double upperLimit);

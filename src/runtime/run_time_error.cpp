@@ -40,10 +40,10 @@ const char* description(ErrorNumber number) {
   return "Application-defined or object-defined error";
 }
 
-RunTimeError::RunTimeError(ErrorNumber number, std::string path) : number_(number), path_(std::move(path)) {}
+RunTimeError::RunTimeError(ErrorNumber number, std::string path) : Failure(std::move(path)), number_(number) {}
 
-std::string RunTimeError::report() const {
-  return "Run-time error '" + std::to_string(static_cast<int>(number_)) + "': " + description(number_);
+std::string RunTimeError::heading() const {
+  return "Run-time error '" + std::to_string(static_cast<int>(number_)) + "'";
 }
 
 RunTimeError fileError(int systemError, const std::string& path) {

@@ -1,7 +1,8 @@
 #pragma once
 
-#include <exception>
 #include <string>
+
+#include "runtime/failure.h"
 
 namespace tavimor {
 
@@ -29,20 +30,18 @@ enum class ErrorNumber {
 const char* description(ErrorNumber number);
 
 /// A run-time error: its number, its description and, for an error of a file or a printer, its path or name.
-class RunTimeError : public std::exception {
+class RunTimeError : public Failure {
  public:
   explicit RunTimeError(ErrorNumber number, std::string path = {});
 
   ErrorNumber number() const { return number_; }
-  const std::string& path() const { return path_; }
   const char* what() const noexcept override { return description(number_); }
 
-  /// "Run-time error 'N': description", the form in which every front end reports it.
-  std::string report() const;
+  /// "Run-time error 'N'"
+  std::string heading() const override;
 
  private:
   ErrorNumber number_;
-  std::string path_;
 };
 
 /// The run-time error for the value that `errno` had after a failed operation on `path`.

@@ -1,7 +1,7 @@
 #include <gmock/gmock.h>
 
 #include "cli/cli.h"
-#include "engine/evaluate.h"
+#include "engine/Compute.h"
 #include "runtime/number_text.h"
 #include "support/example.h"
 

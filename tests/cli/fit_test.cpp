@@ -1,7 +1,6 @@
 #include <gmock/gmock.h>
 
 #include "cli/cli.h"
-#include "formats/save_problem.h"
 #include "support/example.h"
 
 namespace tavimor {
@@ -20,7 +19,7 @@ class FittedExample : public testing::TestWithParam<const char*> {};
 TEST_P(FittedExample, IsListedAsTheListHoldsIt) {
   Example example(GetParam());
   example.fit();
-  const auto listing = test::linesOf([&](const LineSink& add) { ShowResults(example.model, add); });
+  const auto listing = test::linesOf([&](const LineSink& add) { ShowResults(example.model, example.model, add); });
   const Outcome outcome = tavimorCli({"fit", examplePath(GetParam())});
   EXPECT_EQ(outcome.exitCode, 0);
   EXPECT_EQ(outcome.out, test::text(listing));
@@ -31,7 +30,7 @@ TEST_P(FittedExample, IsSavedAsTheEngineSavesIt) {
   const test::TemporaryFolder folder;
   Example example(GetParam());
   example.fit();
-  SaveProblem(example.model, example.fields, folder / "expected");
+  test::save(example.model, example.fields, folder / "expected");
   EXPECT_EQ(tavimorCli({"fit", examplePath(GetParam()), "-o", folder / "saved"}).exitCode, 0);
   EXPECT_EQ(readBytes(folder / "saved"), readBytes(folder / "expected"));
   EXPECT_EQ(readBytes(folder / "saved.dat"), readBytes(folder / "expected.dat"));

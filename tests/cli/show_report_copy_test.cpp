@@ -56,7 +56,7 @@ class ReportOfExample : public testing::TestWithParam<const char*> {};
 
 TEST_P(ReportOfExample, HasTheReportsLines) {
   test::Example example(GetParam());
-  const auto lines = test::linesOf([&](const LineSink& print) { reportLines(example.model, print); });
+  const auto lines = test::linesOf([&](const LineSink& print) { reportLines(example.model, example.model, print); });
   const Outcome outcome = tavimorCli({"report", examplePath(GetParam())});
   EXPECT_EQ(outcome.exitCode, 0);
   EXPECT_EQ(outcome.out, test::text(lines));

@@ -87,7 +87,7 @@ std::string describe(const Dimension& model, InstructionSet set, int threads) {
 
 void expectBitsOf(const plain::Problem& plain, Dimension model, InstructionSet set, int threads) {
   SCOPED_TRACE(describe(model, set, threads));
-  ComputeOptions options;
+  FitOptions options;
   options.instructionSet = set;
   options.threads = threads;
   Compute(

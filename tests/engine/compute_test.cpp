@@ -18,7 +18,6 @@ using test::problem;
 using test::spaced;
 using test::tabulate;
 using testing::ElementsAre;
-using testing::HasSubstr;
 using testing::IsEmpty;
 
 const char* const kSingular = "YIELDS SINGULAR MATRIX.";
@@ -117,7 +116,6 @@ TEST(Compute, ADegreeAboveTheLastIndexIsASilentNoFit) {
   EXPECT_THAT(compute(model), IsEmpty());
   EXPECT_FALSE(model.FitDone);
   EXPECT_EQ(model.ErrNumber, static_cast<Long>(ErrorNumber::SubscriptOutOfRange));
-  EXPECT_THAT(reasonForNoFit(model), HasSubstr("degree of variable \"x\" (2) is not below its number of values (2)"));
 }
 
 TEST(Compute, ASingularMatrixIsToldBeforeADegreeThatIsTooHigh) {
@@ -138,7 +136,7 @@ TEST(Compute, ATableThatIsSmallerThanTheGridIsASilentNoFit) {
   model.F.redim({1, 0, 0, 0});
   EXPECT_THAT(compute(model), IsEmpty());
   EXPECT_FALSE(model.FitDone);
-  EXPECT_EQ(reasonForNoFit(model), "no fit: Subscript out of range");
+  EXPECT_EQ(model.ErrNumber, static_cast<Long>(ErrorNumber::SubscriptOutOfRange));
 }
 
 TEST(Compute, AnErrorInRegeneratingTheValuesIsNotTheFitsToHandle) {

@@ -1,4 +1,4 @@
-#include "engine/evaluate.h"
+#include "engine/Compute.h"
 
 #include <gtest/gtest.h>
 

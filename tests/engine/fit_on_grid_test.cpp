@@ -35,7 +35,7 @@ TEST(FitOnGrid, IsThePolynomialAtEveryGridPoint) {
       problem({{"a", {-1, 0, 2}, 2, 1}, {"b", {3, 4}, 1, 0}, {"c", {0, 1, 2, 5}, 3, 2}, {"d", {-2, 2}, 1, -1}});
   model.Coef.redim(model.Degree);
   for (std::size_t n = 0; n < model.Coef.size(); ++n) model.Coef.data()[n] = static_cast<double>(n % 7) - 3;
-  FitOnGrid(model);
+  model.FitGrid = FitOnGrid(model, model.Coef);
   ASSERT_EQ(model.FitGrid.last(), model.LastPoint);
   test::forEachIndex(model.LastPoint, [&](Long i0, Long i1, Long i2, Long i3) {
     double sum = 0.0;
@@ -50,14 +50,14 @@ TEST(FitOnGrid, IsThePolynomialAtEveryGridPoint) {
 TEST(FitOnGrid, ADegreeAboveTheLastIndexIsASubscriptError) {
   Dimension model = problem({{"a", {1, 2}, 2, 0}});
   model.Coef.redim(model.Degree);
-  EXPECT_THROW(FitOnGrid(model), RunTimeError);
+  EXPECT_THROW(FitOnGrid(model, model.Coef), RunTimeError);
 }
 
 TEST(FitOnGrid, TakesADegreeEqualToTheLastIndex) {
   Dimension model = problem({{"a", {1, 2, 3}, 2, 0}});
   model.Coef.redim(model.Degree);
   model.Coef(2, 0, 0, 0) = 1;
-  FitOnGrid(model);
+  model.FitGrid = FitOnGrid(model, model.Coef);
   EXPECT_EQ(model.FitGrid(2, 0, 0, 0), 9.0);
 }
 

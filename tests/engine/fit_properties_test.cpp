@@ -4,7 +4,7 @@
 #include <numeric>
 #include <random>
 
-#include "engine/evaluate.h"
+#include "engine/Compute.h"
 #include "support/full_system.h"
 #include "support/problem.h"
 

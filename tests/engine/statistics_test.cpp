@@ -24,9 +24,16 @@ Dimension withFittedValues(const std::vector<double>& given, const std::vector<d
   return model;
 }
 
+void setStatistics(Dimension& model) {
+  const StatisticsOutcome outcome =
+      fitStatistics(model.F, model.FitGrid, sumOfGiven(model.F), model.NumGridPoints, model);
+  static_cast<Statistics&>(model) = outcome.figures;
+  model.ErrNumber = outcome.ErrNumber;
+}
+
 TEST(Statistics, FollowTheirFormulas) {
   Dimension model = withFittedValues({1, 2, 6, 7}, {2, 2, 4, 10});
-  fitStatistics(model, sumOfGiven(model.F));
+  setStatistics(model);
   EXPECT_EQ(model.AvgGiven, 4.0);
   EXPECT_EQ(model.AvgEstimated, 4.5);
   EXPECT_EQ(model.SumRes2, 1.0 + 0 + 4 + 9);
@@ -35,26 +42,26 @@ TEST(Statistics, FollowTheirFormulas) {
 
 TEST(Statistics, TheRegressionSumIsTakenAboutTheAverageOfTheGivenValues) {
   Dimension model = withFittedValues({1, 2, 6, 7}, {5, 5, 5, 5});
-  fitStatistics(model, sumOfGiven(model.F));
+  setStatistics(model);
   EXPECT_EQ(model.CorrCoef, std::sqrt(4.0 / (9 + 4 + 4 + 9)));  // about the average of the fitted values it would be 0
 }
 
 TEST(Statistics, TheCorrelationIsNotClippedAtOne) {
   Dimension model = withFittedValues({1, 2, 3}, {0, 2, 4});
-  fitStatistics(model, sumOfGiven(model.F));
+  setStatistics(model);
   EXPECT_EQ(model.CorrCoef, 2.0);
 }
 
 TEST(Statistics, EqualGivenValuesCorrelateByRuleWhateverTheFit) {
   Dimension model = withFittedValues({4, 4, 4}, {1, 2, 3});
-  fitStatistics(model, sumOfGiven(model.F));
+  setStatistics(model);
   EXPECT_EQ(model.CorrCoef, 1.0);
 }
 
 TEST(Statistics, WithTwoPointsTheStandardErrorKeepsItsValue) {
   Dimension model = withFittedValues({1, 2}, {0, 0});
   model.StdErr = 0.75;
-  fitStatistics(model, sumOfGiven(model.F));
+  setStatistics(model);
   EXPECT_EQ(model.StdErr, 0.75);
   EXPECT_EQ(model.ErrNumber, static_cast<Long>(ErrorNumber::DivisionByZero));
   EXPECT_EQ(model.SumRes2, 5.0);
@@ -63,7 +70,7 @@ TEST(Statistics, WithTwoPointsTheStandardErrorKeepsItsValue) {
 TEST(Statistics, WithOnePointAndAResidualTheStandardErrorKeepsItsValue) {
   Dimension model = withFittedValues({1}, {3});
   model.StdErr = 0.75;
-  fitStatistics(model, sumOfGiven(model.F));
+  setStatistics(model);
   EXPECT_EQ(model.StdErr, 0.75);
   EXPECT_EQ(model.ErrNumber, static_cast<Long>(ErrorNumber::InvalidCall));
 }
@@ -71,7 +78,7 @@ TEST(Statistics, WithOnePointAndAResidualTheStandardErrorKeepsItsValue) {
 TEST(Statistics, WithOnePointAndNoResidualTheStandardErrorIsMinusZero) {
   Dimension model = withFittedValues({3}, {3});
   model.StdErr = 0.75;
-  fitStatistics(model, sumOfGiven(model.F));
+  setStatistics(model);
   EXPECT_EQ(model.StdErr, 0.0);
   EXPECT_TRUE(std::signbit(model.StdErr));
   EXPECT_EQ(model.ErrNumber, 0);
@@ -116,7 +123,7 @@ TEST(Statistics, TheAveragesOfGivenAndEstimatedValuesAgree) {
 
 TEST(Statistics, SumsThatOverflowAreInfinite) {
   Dimension model = withFittedValues({1e200, 0, 0}, {0, 0, 0});
-  fitStatistics(model, sumOfGiven(model.F));
+  setStatistics(model);
   EXPECT_TRUE(std::isinf(model.SumRes2));
   EXPECT_TRUE(std::isinf(model.StdErr));
 }

@@ -2,7 +2,6 @@
 #include <gtest/gtest.h>
 
 #include "formats/open_problem.h"
-#include "formats/save_problem.h"
 #include "model/capture_specs.h"
 #include "support/document.h"
 #include "support/expect_error.h"
@@ -21,12 +20,14 @@ class FileFormatPage : public test::PairTest {
   // Opens the pair that a block and the one with ".dat" behind its name show.
   void open(const std::string& block) {
     writePair(bytesOf(block), bytesOf(block + ".dat"));
-    openProblem(path(), model, fields);
+    OpenedProblem opened = openProblem(path());
+    model = test::modelOf(std::move(opened.problem), std::move(opened.fit));
+    fields = std::move(opened.fields);
   }
 
   void saveAndExpect(const std::string& block) {
     test::FaultySteps quick;
-    SaveProblem(model, fields, path(), quick);
+    test::save(model, fields, path(), quick);
     expectBytes(bytesOf(block), bytesOf(block + ".dat"));
   }
 

@@ -15,9 +15,8 @@ class HostileSizes : public test::PairTest {
  protected:
   void expectRefusedWithLittleMemory(const std::string& specification, const std::string& values) {
     writePair(specification, values);
-    Dimension model;
     test::resetAllocations();
-    EXPECT_THROW(readProblem(path(), model), BadFile);
+    EXPECT_THROW(readProblem(path()), BadFile);
     EXPECT_LT(test::allocatedBytes(), kFixedBytes + 20 * (specification.size() + values.size()));
   }
 };

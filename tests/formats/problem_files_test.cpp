@@ -3,9 +3,9 @@
 #include <limits>
 #include <random>
 
-#include "formats/problem_writer.h"
 #include "support/faulty_steps.h"
 #include "support/pair_files.h"
+#include "support/stored.h"
 #include "support/stored_problems.h"
 
 namespace tavimor {
@@ -18,7 +18,7 @@ using test::withCrLf;
 class ProblemFiles : public test::PairTest {
  protected:
   void expectWritten(const Dimension& model, const std::string& specification, const std::string& values) {
-    writeProblem(model, path());
+    test::store(model, path());
     expectBytes(withCrLf(specification), withCrLf(values));
     expectSameProblem(read(), model);
   }
@@ -94,7 +94,7 @@ TEST_F(ProblemFiles, KeepPeriodAndPeriodFlag) {
 TEST_F(ProblemFiles, DoNotHoldTheValueOfAVariableThatHasOneOnly) {
   Dimension model = gridProblem({2, 1, 2});
   model.X1 = {7};
-  writeProblem(model, path());
+  test::store(model, path());
   EXPECT_EQ(test::readBytes(folder / "p.dat"), withCrLf(" 2 \n 1 \n#TRUE#\n 0 \n#TRUE#\n 1 \n#TRUE#\n"
                                                         " 0 \n 1 \n 0 \n 1 \n 100 \n 100.25 \n 100.125 \n 100.375 \n"));
   Dimension wanted = model;
@@ -149,7 +149,7 @@ TEST_F(ProblemFiles, HoldEveryFormOfNumber) {
 TEST_F(ProblemFiles, HoldNamesWithQuotesAndOtherLetters) {
   Dimension model = gridProblem({2, 2, 2, 2});
   model.VarName = {"5\" disk", "\"", " µ, °C ", ""};
-  writeProblem(model, path());
+  test::store(model, path());
   EXPECT_NE(test::readBytes(path()).find("\"5\" disk\",0,1"), std::string::npos);
   expectSameProblem(read(), model);
 }
@@ -159,10 +159,10 @@ TEST_F(ProblemFiles, OfAnyProblemAreTheSameAfterSaveOpenSave) {
   for (int n = 0; n < 300; ++n) {
     SCOPED_TRACE(n);
     test::FaultySteps quick;
-    writeProblem(test::randomProblem(random), path(), quick);
+    test::store(test::randomProblem(random), path(), quick);
     const std::string specification = test::readBytes(folder / "p");
     const std::string values = test::readBytes(folder / "p.dat");
-    writeProblem(read(), path(), quick);
+    test::store(read(), path(), quick);
     expectBytes(specification, values);
     if (HasFailure()) return;
   }

@@ -44,10 +44,7 @@ TEST_F(ProblemReader, CentreAndPeriodThatAreNoNumbersAreZero) {
 TEST_F(ProblemReader, TheCentresStandAsTextsInTheFields) {
   writePair("1\nx,1,4,*,#TRUE#,0,2\ny,0,1, 1.50 ,#FALSE#,0,3\n#FALSE#\n",
             "1\n1\n#TRUE#\n1\n#FALSE#\n0\n1\n0\n1\n1\n2\n3\n4\n");
-  Dimension model;
-  AllSpecFields fields;
-  fields[2].txtExpansion = "of the problem before";
-  openProblem(path(), model, fields);
+  const AllSpecFields fields = openProblem(path()).fields;
   EXPECT_EQ(fields[0].txtExpansion, "*");
   EXPECT_EQ(fields[1].txtExpansion, "1.50");
   EXPECT_EQ(fields[2].txtExpansion, "");
@@ -86,30 +83,6 @@ TEST_F(ProblemReader, WholeNumbersAreRoundedHalvesToEven) {
 
 TEST_F(ProblemReader, MarksTheValuesOfDeclaredVariablesAsGiven) {
   EXPECT_EQ(readRecord("x,1,4,*,#TRUE#,0,2").ValuesGiven, (PerVariable<bool>{true, false, false, false}));
-}
-
-TEST_F(ProblemReader, ReplacesTheProblemAndKeepsTheStateOfTheRun) {
-  writePair("0\nx,1,4,*,#TRUE#,0,2\n#FALSE#\n", "0\n1\n#TRUE#\n0\n1\n8\n9\n");
-  Dimension model = test::gridProblem({2, 3, 4});
-  test::pretendFit(model);
-  model.AddCount = {1, 2, 3};
-  model.Step = {1, 2, 3};
-  model.CurVar = 2;
-  model.LoadingFile = true;
-  model.FileName = "a name";
-  model.WorkDir = "a folder";
-  model.x = {1, 2, 3, 4};
-  model.S3 = 5;
-  readProblem(path(), model);
-  test::expectSameProblem(model, read());
-  EXPECT_FALSE(model.FitDone);
-  EXPECT_EQ(model.AddCount, PerVariable<Long>{});
-  EXPECT_EQ(model.CurVar, 2);
-  EXPECT_TRUE(model.LoadingFile);
-  EXPECT_EQ(model.FileName, "a name");
-  EXPECT_EQ(model.WorkDir, "a folder");
-  EXPECT_EQ(model.x[3], 4);
-  EXPECT_EQ(model.S3, 5);
 }
 
 // The number of variables stands in both files; the one in the values file holds, and what the other file tells of

@@ -2,11 +2,11 @@
 #include <gtest/gtest.h>
 
 #include "formats/problem_reader.h"
-#include "formats/problem_writer.h"
 #include "support/child_process.h"
 #include "support/expect_error.h"
 #include "support/faulty_steps.h"
 #include "support/pair_files.h"
+#include "support/stored.h"
 #include "support/stored_problems.h"
 
 namespace tavimor {
@@ -34,10 +34,10 @@ class SaveFaults : public test::PairTest, public testing::WithParamInterface<boo
   void begin() const {
     for (const std::string& name : test::namesIn(folder.path())) std::filesystem::remove(folder / name);
     FaultySteps steps;
-    if (thereIsAnOldPair()) writeProblem(markedProblem(kOld), path(), steps);
+    if (thereIsAnOldPair()) test::store(markedProblem(kOld), path(), steps);
   }
 
-  void save(FaultySteps& steps) const { writeProblem(markedProblem(kNew), path(), steps); }
+  void save(FaultySteps& steps) const { test::store(markedProblem(kNew), path(), steps); }
 
   int countSteps() const {
     begin();
@@ -50,7 +50,7 @@ class SaveFaults : public test::PairTest, public testing::WithParamInterface<boo
   double readMark() const {
     Dimension model;
     try {
-      readProblem(path(), model);
+      model = read();
     } catch (const RunTimeError& error) {
       EXPECT_EQ(error.number(), ErrorNumber::FileNotFound);
       return 0;

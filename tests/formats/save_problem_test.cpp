@@ -1,4 +1,3 @@
-#include "formats/save_problem.h"
 
 #include <gtest/gtest.h>
 
@@ -19,7 +18,7 @@ class SavedExample : public testing::TestWithParam<const char*> {};
 TEST_P(SavedExample, HasTheBytesOfTheFilesThatWereOpened) {
   const test::TemporaryFolder folder;
   Example example(GetParam());
-  SaveProblem(example.model, example.fields, folder / "copy");
+  test::save(example.model, example.fields, folder / "copy");
   EXPECT_EQ(readBytes(folder / "copy"), readBytes(examplePath(GetParam())));
   EXPECT_EQ(readBytes(folder / "copy.dat"), readBytes(examplePath(GetParam()) + ".dat"));
 }
@@ -34,10 +33,8 @@ using SaveProblemTest = test::FolderTest;
 TEST_F(SaveProblemTest, AFitSurvivesSaveAndOpen) {
   Example example("heat-index");
   example.fit();
-  SaveProblem(example.model, example.fields, folder / "fitted");
-  Dimension opened;
-  AllSpecFields fields;
-  openProblem(folder / "fitted", opened, fields);
+  test::save(example.model, example.fields, folder / "fitted");
+  const Dimension opened = test::stored(folder / "fitted");
   EXPECT_TRUE(opened.FitDone);
   EXPECT_EQ(opened.NumGridPoints, 16 * 13);
   EXPECT_NEAR(opened.CorrCoef, example.model.CorrCoef, 1e-14);
@@ -51,7 +48,7 @@ TEST_F(SaveProblemTest, WritesWhatTheFieldsSay) {
   example.fields[0].txtExpansion = "*";
   example.fields[0].txtTerms = "3";
   example.fields[0].chkSpaced = true;
-  SaveProblem(example.model, example.fields, folder / "changed");
+  test::save(example.model, example.fields, folder / "changed");
   EXPECT_EQ(readBytes(folder / "changed"), " 0 \r\n\"reading\",-1.5,999,498.75,#TRUE#,0,3\r\n#FALSE#\r\n");
   EXPECT_TRUE(readBytes(folder / "changed.dat").starts_with(" 0 \r\n 35 \r\n#TRUE#\r\n-1.5 \r\n"));
 }
@@ -59,17 +56,16 @@ TEST_F(SaveProblemTest, WritesWhatTheFieldsSay) {
 TEST_F(SaveProblemTest, TheSavedRecordSaysPowersWhateverTheFileSaid) {
   test::writeBytes(folder / "waves", " 0 \r\n\"t\",0,1,0,#FALSE#,6.25,1\r\n#FALSE#\r\n");
   test::writeBytes(folder / "waves.dat", " 0 \r\n 1 \r\n#FALSE#\r\n 0 \r\n 1 \r\n 2 \r\n 3 \r\n");
-  Dimension model;
-  AllSpecFields fields;
-  openProblem(folder / "waves", model, fields);
-  SaveProblem(model, fields, folder / "saved");
+  OpenedProblem waves = openProblem(folder / "waves");
+  Dimension model = test::modelOf(waves.problem, waves.fit);
+  test::save(model, waves.fields, folder / "saved");
   EXPECT_EQ(readBytes(folder / "saved"), " 0 \r\n\"t\",0,1,0,#TRUE#,6.25,1\r\n#FALSE#\r\n");
 }
 
 TEST_F(SaveProblemTest, FieldsThatCannotBeCapturedLeaveNoFile) {
   Example example("ozone");
   example.fields[0].txtPoints = "1";
-  EXPECT_THROW(SaveProblem(example.model, example.fields, folder / "never"), RunTimeError);
+  EXPECT_THROW(test::save(example.model, example.fields, folder / "never"), RunTimeError);
   EXPECT_TRUE(test::namesIn(folder.path()).empty());
 }
 

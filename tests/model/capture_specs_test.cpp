@@ -28,7 +28,7 @@ class CaptureSpecsTest : public testing::Test {
     return {};
   }
 
-  Dimension model;
+  Problem model;
   AllSpecFields fields;
 };
 

@@ -13,20 +13,20 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::Optional;
 
-Dimension problemWithCounts(const std::vector<Long>& counts) {
-  Dimension model;
-  model.LastVar = static_cast<Long>(counts.size()) - 1;
-  for (std::size_t k = 0; k < counts.size(); ++k) model.LastPoint[k] = counts[k] - 1;
-  model.F.redim(model.LastPoint);
-  return model;
+Problem problemWithCounts(const std::vector<Long>& counts) {
+  Problem problem;
+  problem.LastVar = static_cast<Long>(counts.size()) - 1;
+  for (std::size_t k = 0; k < counts.size(); ++k) problem.LastPoint[k] = counts[k] - 1;
+  return problem;
 }
 
 TEST(GridWalk, VisitsTheLastVariableFastestAndReturnsToTheFirstPoint) {
-  Dimension model = problemWithCounts({3, 2});
+  const Problem problem = problemWithCounts({3, 2});
+  PerVariable<Long> point{};
   std::vector<std::pair<Long, Long>> visited;
   for (int n = 0; n < 7; ++n) {
-    visited.emplace_back(model.StartIdx[0], model.StartIdx[1]);
-    moveToNextPoint(model);
+    visited.emplace_back(point[0], point[1]);
+    point = nextPoint(problem, point);
   }
   using Point = std::pair<Long, Long>;
   EXPECT_THAT(visited,
@@ -34,30 +34,33 @@ TEST(GridWalk, VisitsTheLastVariableFastestAndReturnsToTheFirstPoint) {
 }
 
 TEST(GridWalk, GoesFromTheFirstPointBackToTheLast) {
-  Dimension model = problemWithCounts({3, 2});
-  moveToPreviousPoint(model);
-  EXPECT_THAT(model.StartIdx, ElementsAre(2, 1, 0, 0));
+  const Problem problem = problemWithCounts({3, 2});
+  PerVariable<Long> point{};
+  point = previousPoint(problem, point);
+  EXPECT_THAT(point, ElementsAre(2, 1, 0, 0));
 }
 
 TEST(GridWalk, BackwardsUndoesForwardsAtEveryPointOfFourVariables) {
-  Dimension model = problemWithCounts({2, 3, 1, 4});
+  const Problem problem = problemWithCounts({2, 3, 1, 4});
+  PerVariable<Long> point{};
   for (int n = 0; n < 2 * 3 * 1 * 4; ++n) {
-    const PerVariable<Long> before = model.StartIdx;
-    moveToNextPoint(model);
-    EXPECT_NE(model.StartIdx, before);
-    moveToPreviousPoint(model);
-    EXPECT_EQ(model.StartIdx, before);
-    moveToNextPoint(model);
+    const PerVariable<Long> before = point;
+    point = nextPoint(problem, point);
+    EXPECT_NE(point, before);
+    point = previousPoint(problem, point);
+    EXPECT_EQ(point, before);
+    point = nextPoint(problem, point);
   }
-  EXPECT_EQ(model.StartIdx, PerVariable<Long>{}) << "as many steps as points lead around";
+  EXPECT_EQ(point, PerVariable<Long>{}) << "as many steps as points lead around";
 }
 
 TEST(GridWalk, ASinglePointIsItsOwnNeighbour) {
-  Dimension model = problemWithCounts({1});
-  moveToNextPoint(model);
-  EXPECT_THAT(model.StartIdx, ElementsAre(0, 0, 0, 0));
-  moveToPreviousPoint(model);
-  EXPECT_THAT(model.StartIdx, ElementsAre(0, 0, 0, 0));
+  const Problem problem = problemWithCounts({1});
+  PerVariable<Long> point{};
+  point = nextPoint(problem, point);
+  EXPECT_THAT(point, ElementsAre(0, 0, 0, 0));
+  point = previousPoint(problem, point);
+  EXPECT_THAT(point, ElementsAre(0, 0, 0, 0));
 }
 
 TEST(Ring, JoinsItsEnds) {
@@ -69,36 +72,23 @@ TEST(Ring, JoinsItsEnds) {
   EXPECT_EQ(previousOnRing(0, 0), 0);
 }
 
-TEST(FunctionAtStartIdx, IsTheTablesElement) {
-  Dimension model = problemWithCounts({2, 3, 1, 4});
-  model.StartIdx = {1, 2, 0, 3};
-  functionAtStartIdx(model) = 7.5;
-  EXPECT_EQ(model.F(1, 2, 0, 3), 7.5);
-}
-
-TEST(FunctionAtStartIdx, LiesWithinTheBounds) {
-  Dimension model = problemWithCounts({2, 3});
-  model.StartIdx = {0, -1, 0, 0};
-  EXPECT_THROW(functionAtStartIdx(model), RunTimeError);
-}
-
 TEST(GridPointFromText, ReadsOneIndexPerVariable) {
-  const Dimension model = problemWithCounts({3, 2, 5});
-  EXPECT_THAT(gridPointFromText(model, "2,1,4"), Optional(ElementsAre(2, 1, 4, 0)));
-  EXPECT_THAT(gridPointFromText(model, " 2 , 1x, 4 "), Optional(ElementsAre(2, 1, 4, 0)));
+  const Problem problem = problemWithCounts({3, 2, 5});
+  EXPECT_THAT(gridPointFromText(problem, "2,1,4"), Optional(ElementsAre(2, 1, 4, 0)));
+  EXPECT_THAT(gridPointFromText(problem, " 2 , 1x, 4 "), Optional(ElementsAre(2, 1, 4, 0)));
 }
 
 TEST(GridPointFromText, TakesTextForZeroAndIgnoresPartsBeyondTheVariables) {
-  const Dimension model = problemWithCounts({3, 2});
-  EXPECT_THAT(gridPointFromText(model, "abc,"), Optional(ElementsAre(0, 0, 0, 0)));
-  EXPECT_THAT(gridPointFromText(model, "1,1,99,99,99"), Optional(ElementsAre(1, 1, 0, 0)));
+  const Problem problem = problemWithCounts({3, 2});
+  EXPECT_THAT(gridPointFromText(problem, "abc,"), Optional(ElementsAre(0, 0, 0, 0)));
+  EXPECT_THAT(gridPointFromText(problem, "1,1,99,99,99"), Optional(ElementsAre(1, 1, 0, 0)));
 }
 
 TEST(GridPointFromText, RefusesAnIndexBeyondTheLast) {
-  const Dimension model = problemWithCounts({3, 2});
-  EXPECT_EQ(gridPointFromText(model, "3,0"), std::nullopt);
-  EXPECT_EQ(gridPointFromText(model, "0,2"), std::nullopt);
-  EXPECT_EQ(gridPointFromText(model, "2.1,0"), std::nullopt) << "compared before it is rounded";
+  const Problem problem = problemWithCounts({3, 2});
+  EXPECT_EQ(gridPointFromText(problem, "3,0"), std::nullopt);
+  EXPECT_EQ(gridPointFromText(problem, "0,2"), std::nullopt);
+  EXPECT_EQ(gridPointFromText(problem, "2.1,0"), std::nullopt) << "compared before it is rounded";
 }
 
 TEST(GridPointFromText, LetsNegativeIndicesPass) {
@@ -106,14 +96,14 @@ TEST(GridPointFromText, LetsNegativeIndicesPass) {
 }
 
 TEST(GridPointFromText, RoundsHalvesToEven) {
-  const Dimension model = problemWithCounts({9, 9});
-  EXPECT_THAT(gridPointFromText(model, "2.5,3.5"), Optional(ElementsAre(2, 4, 0, 0)));
+  const Problem problem = problemWithCounts({9, 9});
+  EXPECT_THAT(gridPointFromText(problem, "2.5,3.5"), Optional(ElementsAre(2, 4, 0, 0)));
 }
 
 TEST(GridPointFromText, MissesTheSubscriptOfAPartThatIsNotThere) {
-  const Dimension model = problemWithCounts({3, 2});
+  const Problem problem = problemWithCounts({3, 2});
   try {
-    gridPointFromText(model, "1");
+    gridPointFromText(problem, "1");
     FAIL() << "a part is missing";
   } catch (const RunTimeError& error) {
     EXPECT_EQ(error.number(), ErrorNumber::SubscriptOutOfRange);

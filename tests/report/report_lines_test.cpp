@@ -156,14 +156,14 @@ TEST(ReportLines, WithoutAFitHaveNoResults) {
   std::vector<std::string> expected;
   for (const Long k : {0, 1}) variableLines(model, k, [&](const std::string& line) { expected.push_back(line); });
   dataLines(model, [&](const std::string& line) { expected.push_back(line); });
-  EXPECT_EQ(linesOf([&](const LineSink& print) { reportLines(model, print); }), expected);
+  EXPECT_EQ(linesOf([&](const LineSink& print) { reportLines(model, model, print); }), expected);
 }
 
 TEST(ReportLines, WithAFitHaveTheResultsBetweenSpecificationsAndData) {
   Dimension model = problem({{"x", {-1, 0, 1}, 1, 0}});
   tabulate(model, [](double x, double, double, double) { return 3 + 2 * x; });
   test::compute(model);
-  const auto lines = linesOf([&](const LineSink& print) { reportLines(model, print); });
+  const auto lines = linesOf([&](const LineSink& print) { reportLines(model, model, print); });
   EXPECT_EQ(lines, (Lines{"",                                         //
                           "           VARIABLE: x",                   //
                           "             DEGREE: 1 ",                  //

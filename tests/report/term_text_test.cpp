@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "report/results_text.h"
+#include "report/term_text.h"
 #include "support/problem.h"
 
 namespace tavimor {
@@ -47,9 +47,10 @@ TEST_P(TermText, IsWrittenByFlagsCentreAndIndex) {
   Dimension model = test::problem({{"t", {0, 1}, 0, GetParam().centre}});
   model.PeriodFlag[0] = GetParam().periodFlag;
   model.TrigFlag[0] = GetParam().trigFlag;
+  Long index = 0;
   for (const char* text : GetParam().texts) {
-    EXPECT_EQ(termText(model), text) << "index " << model.I0;
-    ++model.I0;
+    EXPECT_EQ(termText(model, {index, 0, 0, 0}), text) << "index " << index;
+    ++index;
   }
 }
 
@@ -58,34 +59,26 @@ INSTANTIATE_TEST_SUITE_P(Cases, TermText, testing::ValuesIn(termCases()),
 
 TEST(TermTextOfVariables, JoinsTheFactorsInTheOrderOfTheVariables) {
   Dimension model = test::problem({{"x", {0, 1}, 0, 0}, {"y", {0, 1}, 0, 0.5}, {"z", {0, 1}, 0, -3}});
-  model.I0 = 2;
-  model.I1 = 1;
-  EXPECT_EQ(termText(model), "*x^2*(y-0.5)");
-  model.I2 = 12;
-  EXPECT_EQ(termText(model), "*x^2*(y-0.5)*(z+3)^12");
-  model.I0 = model.I1 = 0;
-  EXPECT_EQ(termText(model), "*(z+3)^12");
+  EXPECT_EQ(termText(model, {2, 1, 0, 0}), "*x^2*(y-0.5)");
+  EXPECT_EQ(termText(model, {2, 1, 12, 0}), "*x^2*(y-0.5)*(z+3)^12");
+  EXPECT_EQ(termText(model, {0, 0, 12, 0}), "*(z+3)^12");
 }
 
 TEST(TermTextOfVariables, IndicesOfUndeclaredVariablesDoNotCount) {
   Dimension model = test::problem({{"x", {0, 1}, 0, 0}});
-  model.I0 = model.I1 = model.I3 = 1;
-  EXPECT_EQ(termText(model), "*x");
+  EXPECT_EQ(termText(model, {1, 1, 0, 1}), "*x");
 }
 
 TEST(TermTextOfVariables, NamesStandAsEntered) {
   Dimension model = test::problem({{"a b", {0, 1}, 0, 0}, {" 2*\"q\"", {0, 1}, 0, 1}});
-  model.I0 = model.I1 = 2;
-  EXPECT_EQ(termText(model), "*a b^2*( 2*\"q\"-1)^2");
+  EXPECT_EQ(termText(model, {2, 2, 0, 0}), "*a b^2*( 2*\"q\"-1)^2");
 }
 
 TEST(TermTextOfVariables, PowersAndWavesMixFreely) {
   Dimension model = test::problem({{"x", {0, 1}, 0, 0}, {"t", {0, 1}, 0, 0}});
   model.PeriodFlag[1] = false;
   model.TrigFlag[1] = true;
-  model.I0 = 3;
-  model.I1 = 4;
-  EXPECT_EQ(termText(model), "*x^3*cos(2*t)");
+  EXPECT_EQ(termText(model, {3, 4, 0, 0}), "*x^3*cos(2*t)");
 }
 
 }  // namespace

@@ -13,7 +13,7 @@ using test::tabulate;
 // The report as a page shows it: without the blanks at the ends of lines, which ReportLines tests.
 std::string reportOf(Dimension& model) {
   std::string page;
-  for (const std::string& line : test::linesOf([&](const LineSink& print) { reportLines(model, print); }))
+  for (const std::string& line : test::linesOf([&](const LineSink& print) { reportLines(model, model, print); }))
     page += line.substr(0, line.find_last_not_of(' ') + 1) + '\n';
   return page;
 }

@@ -37,7 +37,7 @@ TEST_F(InputFileErrors, NameTheFileTheLineAndBothSides) {
     file.readDouble("the limit");
     ADD_FAILURE();
   } catch (const BadFile& error) {
-    EXPECT_EQ(error.path, folder / "file");
+    EXPECT_EQ(error.path(), folder / "file");
     EXPECT_EQ(error.line, 3);
     EXPECT_EQ(error.expected, "the limit (a number)");
     EXPECT_EQ(error.found, "\"x\"");

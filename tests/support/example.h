@@ -3,9 +3,8 @@
 #include <string>
 #include <vector>
 
-#include "formats/open_problem.h"
-#include "model/capture_specs.h"
 #include "support/problem.h"
+#include "support/stored.h"
 
 namespace tavimor::test {
 
@@ -13,7 +12,11 @@ inline std::string examplePath(const std::string& name) { return TAVIMOR_SOURCE_
 
 /// An example problem as the window would have it after Open.
 struct Example {
-  explicit Example(const std::string& name) { openProblem(examplePath(name), model, fields); }
+  explicit Example(const std::string& name) {
+    OpenedProblem opened = openProblem(examplePath(name));
+    model = modelOf(std::move(opened.problem), std::move(opened.fit));
+    fields = std::move(opened.fields);
+  }
 
   /// Fits it about the given centres, or about those of the file.
   void fit(const std::vector<std::string>& centres = {}) {

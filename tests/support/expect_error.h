@@ -25,7 +25,7 @@ void expectBadFile(const std::string& reason, Action action) {
     action();
     ADD_FAILURE() << "no error, expected: " << reason;
   } catch (const BadFile& error) {
-    EXPECT_EQ(error.what(), reason);
+    EXPECT_EQ(error.report(), reason);
   }
 }
 

@@ -2,8 +2,8 @@
 
 #include <string>
 
-#include "formats/problem_reader.h"
 #include "support/files.h"
+#include "support/stored.h"
 #include "support/temporary_folder.h"
 
 namespace tavimor::test {
@@ -25,11 +25,7 @@ class PairTest : public FolderTest {
     writeBytes(folder / "p.dat", values);
   }
 
-  Dimension read() const {
-    Dimension model;
-    readProblem(path(), model);
-    return model;
-  }
+  Dimension read() const { return stored(path()); }
 
   void expectBytes(const std::string& specification, const std::string& values) const {
     EXPECT_EQ(readBytes(folder / "p"), specification);

@@ -7,7 +7,7 @@
 #include "engine/Compute.h"
 #include "model/Dimension.h"
 #include "model/value_lists.h"
-#include "report/results_text.h"
+#include "report/listing.h"
 
 namespace tavimor::test {
 

@@ -5,6 +5,7 @@
 #include <clocale>
 #include <new>
 
+#include "runtime/run_time_error.h"
 #include "ui/controls/error_box.h"
 
 namespace tavimor {
@@ -45,16 +46,16 @@ Application::Application(int& argc, char** argv)
 bool Application::notify(QObject* receiver, QEvent* event) {
   try {
     return QApplication::notify(receiver, event);
-  } catch (const RunTimeError& error) {
-    fail(error);
+  } catch (const Failure& failure) {
+    fail(failure);
   } catch (const std::bad_alloc&) {
     fail(RunTimeError(ErrorNumber::OutOfMemory));
   }
   return true;
 }
 
-void Application::fail(const RunTimeError& error) {
-  reportRunTimeError(error, saveProblem_);
+void Application::fail(const Failure& failure) {
+  reportFailure(failure, saveProblem_);
   end_(1);
 }
 

@@ -4,12 +4,12 @@
 #include <functional>
 #include <string>
 
-#include "runtime/run_time_error.h"
+#include "runtime/failure.h"
 
 namespace tavimor {
 
-/// The application, whose event dispatcher catches what no event procedure has handled. A run-time error, running out
-/// of memory included, is reported in the critical box (see reportRunTimeError), and the program ends with exit code
+/// The application, whose event dispatcher catches what no event procedure has handled. A failure, running out of
+/// memory included, is reported in the critical box (see reportFailure), and the program ends with exit code
 /// 1: no form is unloaded, and no further event is dispatched to any.
 class Application : public QApplication {
   Q_OBJECT
@@ -17,7 +17,7 @@ class Application : public QApplication {
  public:
   Application(int& argc, char** argv);
 
-  /// Writes the problem as it stands to a path; offered by the error box. Errors: a RunTimeError.
+  /// Writes the problem as it stands to a path; offered by the error box. Errors: a Failure.
   void setProblemSaver(std::function<void(const std::string& path)> save) { saveProblem_ = std::move(save); }
 
   /// What ends the program; a test puts its own in the place of leaving the event loop.
@@ -25,8 +25,8 @@ class Application : public QApplication {
 
   bool notify(QObject* receiver, QEvent* event) override;
 
-  /// Reports the error and ends the program, for code that runs outside of any event.
-  void fail(const RunTimeError& error);
+  /// Reports the failure and ends the program, for code that runs outside of any event.
+  void fail(const Failure& failure);
 
  private:
   std::function<void(const std::string&)> saveProblem_;

@@ -9,6 +9,7 @@
 #include "ui/controls/help/help_file.h"
 #include "ui/controls/help/help_viewer.h"
 #include "ui/controls/message_box.h"
+#include "ui/controls/printing/print_dialog.h"
 
 namespace tavimor {
 
@@ -63,6 +64,8 @@ void CommonDialog::ShowHelp(const std::string& page) const {
   else
     HelpViewer::showFile(found, QString::fromStdString(page));
 }
+
+DialogEnd CommonDialog::ShowPrinter(QPrinter& printer) const { return choosePrinter(printer); }
 
 bool mayReplacePair(const std::string& path) {
   const QString existing = existingFiles(path);

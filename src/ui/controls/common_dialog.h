@@ -2,11 +2,11 @@
 
 #include <string>
 
+#include "ui/controls/dialog_end.h"
+
 class QPrinter;
 
 namespace tavimor {
-
-enum class DialogEnd { Confirmed, Cancelled };
 
 /// The value of HelpCommand that opens the help file and brings it into view.
 inline constexpr int kHelpForceFile = 9;
@@ -32,8 +32,8 @@ class CommonDialog {
   /// is not there the installed one of that name. Where there is neither, a message says what was looked for.
   void ShowHelp(const std::string& page = {}) const;
 
-  /// Printer or PDF file, paper, copies and pages. A call that is called off leaves the printer as it was.
-  DialogEnd ShowPrinter(QPrinter& printer);
+  /// See choosePrinter.
+  DialogEnd ShowPrinter(QPrinter& printer) const;
 };
 
 /// Whether the pair of this path may be written as far as the user is concerned: asks where one of the files exists.

@@ -12,15 +12,14 @@ namespace {
 
 using Save = std::function<void(const std::string&)>;
 
-QString errorText(const RunTimeError& error) {
-  const QString text = QStringLiteral("Run-time error '%1':\n\n%2")
-                           .arg(static_cast<int>(error.number()))
-                           .arg(QString::fromUtf8(error.what()));
-  return error.path().empty() ? text : text + QStringLiteral("\n") + QString::fromStdString(error.path());
+QString failureText(const Failure& failure) {
+  const QString text =
+      QStringLiteral("%1:\n\n%2").arg(QString::fromStdString(failure.heading()), QString::fromUtf8(failure.what()));
+  return failure.path().empty() ? text : text + QStringLiteral("\n") + QString::fromStdString(failure.path());
 }
 
-bool wantsCopy(const RunTimeError& error, const Save& save) {
-  QMessageBox box(QMessageBox::Critical, kTitle, errorText(error));
+bool wantsCopy(const Failure& failure, const Save& save) {
+  QMessageBox box(QMessageBox::Critical, kTitle, failureText(failure));
   box.setTextFormat(Qt::PlainText);
   const QPushButton* copy = save ? box.addButton(QStringLiteral("Save a copy..."), QMessageBox::ActionRole) : nullptr;
   QPushButton* end = box.addButton(QStringLiteral("End"), QMessageBox::RejectRole);
@@ -36,16 +35,16 @@ bool hasSavedCopy(const Save& save) {
   try {
     save(dialog.FileName);
     return true;
-  } catch (const RunTimeError& error) {
-    showWarning(errorText(error));
+  } catch (const Failure& failure) {
+    showWarning(failureText(failure));
     return false;
   }
 }
 
 }  // namespace
 
-void reportRunTimeError(const RunTimeError& error, const Save& save) {
-  while (wantsCopy(error, save))
+void reportFailure(const Failure& failure, const Save& save) {
+  while (wantsCopy(failure, save))
     if (hasSavedCopy(save)) return;
 }
 

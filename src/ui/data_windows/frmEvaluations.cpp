@@ -1,17 +1,17 @@
 #include "ui/data_windows/frmEvaluations.h"
 
+#include "engine/Compute.h"
 #include "runtime/number_text.h"
 #include "runtime/run_time_error.h"
 #include "runtime/val.h"
-#include "ui/main_window/frmTavimor.h"
 
 namespace tavimor {
 
-frmEvaluations::frmEvaluations(Dimension& model, frmTavimor& main)
+frmEvaluations::frmEvaluations(Dimension& model, ScriptHost& script)
     : Form(QStringLiteral("frmEvaluations")),
       EvaluationsControls(static_cast<QWidget&>(*this)),
       model_(model),
-      main_(main) {
+      script_(script) {
   setWindowTitle(QStringLiteral("Evaluations"));
   connect(cmdCompute, &QPushButton::clicked, this, &frmEvaluations::cmdCompute_Click);
   for (int k = 0; k < kRows; ++k) connect(txtVarx[k], &TextBox::GotFocus, this, [this, k] { txtVarx_GotFocus(k); });
@@ -44,9 +44,9 @@ void frmEvaluations::evaluatePoint() {
   for (Long k = 0; k <= model_.LastVar; ++k) {
     model_.x[k] = Val(txtVarx[k]->text().toStdString());
     model_.t[k] = model_.x[k] - model_.Centre[k];
-    main_.ScriptControl1.ExecuteStatement(model_.VarName[k] + "=" + numberText(model_.x[k]));
+    script_.ExecuteStatement(model_.VarName[k] + "=" + numberText(model_.x[k]));
   }
-  main_.Evaluate();
+  Evaluate(model_);
   lblApprox->setText(QString::fromStdString(numberText(model_.S3)));
 }
 

@@ -1,12 +1,11 @@
 #pragma once
 
 #include "model/Dimension.h"
+#include "script/ScriptHost.h"
 #include "ui/controls/form.h"
 #include "ui/data_windows/frmEvaluations_controls.h"
 
 namespace tavimor {
-
-class frmTavimor;
 
 /// The window in which the user types a point and reads the fitted function's value there. The main window stays
 /// enabled while it is open.
@@ -14,7 +13,8 @@ class frmEvaluations : public Form, private EvaluationsControls {
   Q_OBJECT
 
  public:
-  frmEvaluations(Dimension& model, frmTavimor& main);
+  /// Each evaluation also assigns the point to the script variables of those names.
+  frmEvaluations(Dimension& model, ScriptHost& script);
 
  private:
   void Form_Load();
@@ -23,7 +23,7 @@ class frmEvaluations : public Form, private EvaluationsControls {
   void txtVarx_GotFocus(int k);
 
   Dimension& model_;
-  frmTavimor& main_;
+  ScriptHost& script_;
 };
 
 }  // namespace tavimor

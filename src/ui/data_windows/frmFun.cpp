@@ -1,9 +1,9 @@
 #include "ui/data_windows/frmFun.h"
 
 #include "model/grid_walk.h"
+#include "model/value_lists.h"
 #include "runtime/number_text.h"
 #include "runtime/val.h"
-#include "ui/main_window/frmTavimor.h"
 
 namespace tavimor {
 
@@ -33,8 +33,8 @@ QString text(Number number) {
 
 }  // namespace
 
-frmFun::frmFun(Dimension& model, frmTavimor& main)
-    : Form(QStringLiteral("frmFun")), FunControls(static_cast<QWidget&>(*this)), model_(model), main_(main) {
+frmFun::frmFun(Dimension& model)
+    : Form(QStringLiteral("frmFun")), FunControls(static_cast<QWidget&>(*this)), model_(model) {
   setWindowTitle(QStringLiteral("Enter/Edit values of function"));
   connectEvents();
   Form_Load();
@@ -65,11 +65,10 @@ void frmFun::connectRow(Long k) {
 void frmFun::Form_Load() {
   model_.Updating = false;
   layOutFunctionCall(model_.LastVar);
-  txtFun->setText(text(functionAtStartIdx(model_)));
+  txtFun->setText(text(model_.F(model_.StartIdx)));
   for (Long k = 0; k <= model_.LastVar; ++k) {
     showRow(k, QString::fromStdString(model_.VarName[k]));
-    main_.GetVarX(k, model_.StartIdx[k]);
-    txtVar[k]->setText(text(model_.VarX));
+    txtVar[k]->setText(text(valueOf(model_, k, model_.StartIdx[k])));
     txtVarIndex[k]->setText(text(model_.StartIdx[k]));
     txtFunIndex[k]->setText(text(model_.StartIdx[k]));
   }
@@ -82,41 +81,39 @@ void frmFun::readIndices() {
 
 void frmFun::storeFunctionValue() {
   readIndices();
-  functionAtStartIdx(model_) = value(*txtFun);
+  model_.F(model_.StartIdx) = value(*txtFun);
 }
 
 void frmFun::showFunctionValue() {
   const Rewriting rewriting(model_);
-  txtFun->setText(text(functionAtStartIdx(model_)));
+  txtFun->setText(text(model_.F(model_.StartIdx)));
 }
 
 void frmFun::showVariableValue(Long k) {
   const Rewriting rewriting(model_);
-  main_.GetVarX(k, model_.StartIdx[k]);
-  txtVar[k]->setText(text(model_.VarX));
+  txtVar[k]->setText(text(valueOf(model_, k, model_.StartIdx[k])));
 }
 
 void frmFun::showPoint() {
   const Rewriting rewriting(model_);
   for (Long k = 0; k <= model_.LastVar; ++k) txtFunIndex[k]->setText(text(model_.StartIdx[k]));
-  txtFun->setText(text(functionAtStartIdx(model_)));
+  txtFun->setText(text(model_.F(model_.StartIdx)));
   txtFun->selectAll();
   for (Long k = 0; k <= model_.LastVar; ++k) {
-    main_.GetVarX(k, model_.StartIdx[k]);
-    txtVar[k]->setText(text(model_.VarX));
+    txtVar[k]->setText(text(valueOf(model_, k, model_.StartIdx[k])));
     txtVarIndex[k]->setText(text(model_.StartIdx[k]));
   }
 }
 
 void frmFun::cmdIncFunIndex_Click() {
   storeFunctionValue();
-  moveToNextPoint(model_);
+  model_.StartIdx = nextPoint(model_, model_.StartIdx);
   showPoint();
 }
 
 void frmFun::cmdDecFunIndex_Click() {
   storeFunctionValue();
-  moveToPreviousPoint(model_);
+  model_.StartIdx = previousPoint(model_, model_.StartIdx);
   showPoint();
 }
 
@@ -170,7 +167,7 @@ void frmFun::txtVarIndex_Change(Long k) {
 void frmFun::txtVar_Change(Long k) {
   if (handlersRest()) return;
   model_.VarX = value(*txtVar[k]);
-  main_.SetVarX(k, wholeNumber(*txtVarIndex[k]));
+  valueOf(model_, k, wholeNumber(*txtVarIndex[k])) = model_.VarX;
 }
 
 void frmFun::txtFunIndex_Validate(Long k, bool& cancel) const { cancel = !isIndexOf(k, *txtFunIndex[k]); }
@@ -179,6 +176,6 @@ void frmFun::txtVarIndex_Validate(Long k, bool& cancel) const { cancel = !isInde
 
 void frmFun::cmdExit_Click() { unload(); }
 
-void frmFun::Form_Unload() { main_.enable(); }
+void frmFun::Form_Unload() { emit Finished(); }
 
 }  // namespace tavimor

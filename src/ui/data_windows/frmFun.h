@@ -6,15 +6,17 @@
 
 namespace tavimor {
 
-class frmTavimor;
-
 /// The window in which the user walks over the grid and types the function's value at each point. It opens at the
 /// point StartIdx; the main window is disabled while it is open. Every change is stored as it is typed.
 class frmFun : public Form, private FunControls {
   Q_OBJECT
 
  public:
-  frmFun(Dimension& model, frmTavimor& main);
+  explicit frmFun(Dimension& model);
+
+ signals:
+  /// The user has done with the window.
+  void Finished();
 
  protected:
   void Form_Unload() override;
@@ -47,7 +49,6 @@ class frmFun : public Form, private FunControls {
   void cmdExit_Click();
 
   Dimension& model_;
-  frmTavimor& main_;
 };
 
 }  // namespace tavimor

@@ -1,9 +1,9 @@
 #include "ui/data_windows/frmVars.h"
 
 #include "model/delete_value.h"
+#include "model/value_lists.h"
 #include "runtime/number_text.h"
 #include "runtime/val.h"
-#include "ui/main_window/frmTavimor.h"
 
 namespace tavimor {
 
@@ -13,8 +13,8 @@ bool isOfANumber(QChar character) { return QStringLiteral("+-.0123456789Ee").con
 
 }  // namespace
 
-frmVars::frmVars(Dimension& model, frmTavimor& main)
-    : Form(QStringLiteral("frmVars")), VarsControls(static_cast<QWidget&>(*this)), model_(model), main_(main) {
+frmVars::frmVars(Dimension& model)
+    : Form(QStringLiteral("frmVars")), VarsControls(static_cast<QWidget&>(*this)), model_(model) {
   setWindowTitle(QStringLiteral("Enter/Edit values of variables"));
   connectEvents();
   Form_Load();
@@ -35,11 +35,11 @@ void frmVars::connectEvents() {
 
 void frmVars::Form_Load() { txtDataEntry->hide(); }
 
-void frmVars::open() {
+void frmVars::open(Form& above) {
   MSFlexGridVars->setRow(0);
   txtDataEntry->setText(MSFlexGridVars->Text());
   MSFlexGridVars->setFocus();
-  showAbove(main_);
+  showAbove(above);
 }
 
 void frmVars::MSFlexGridVars_Click() { placeEntry(); }
@@ -86,23 +86,22 @@ void frmVars::txtDataEntry_Change() {
   MSFlexGridVars->setText(txtDataEntry->text());
   model_.I = MSFlexGridVars->Row();
   const std::string text = txtDataEntry->text().toStdString();
-  main_.GetVarX(model_.V, model_.I);
-  if (text != numberText(model_.VarX)) model_.VarX = Val(text);
-  main_.SetVarX(model_.V, model_.I);
+  double& value = valueOf(model_, model_.V, model_.I);
+  if (text != numberText(value)) value = Val(text);
+  model_.VarX = value;
 }
 
 void frmVars::cmdDelete_Click() {
   const Long v = model_.V, last = model_.LastPoint[v];
   if (last == 0) return;
   const Long r = model_.I = MSFlexGridVars->Row();
-  main_.GetVarX(v, last);
-  const QString lastValue = QString::fromStdString(numberText(model_.VarX));
+  const QString lastValue = QString::fromStdString(numberText(valueOf(model_, v, last)));
   txtDataEntry->setText(lastValue);
   MSFlexGridVars->setText(lastValue);
   MSFlexGridVars->setRows(last);
   if (r == last) txtDataEntry->hide();
   deleteValue(model_, v, r);
-  main_.numberOfValuesChanged(v);
+  emit ValueDeleted(v);
 }
 
 void frmVars::cmdExit_Click() { finish(); }
@@ -113,7 +112,7 @@ void frmVars::finish() {
   txtDataEntry_Change();
   hide();
   txtDataEntry->hide();
-  main_.enable();
+  emit Finished();
 }
 
 void frmVars::moveEntry() {

@@ -6,8 +6,6 @@
 
 namespace tavimor {
 
-class frmTavimor;
-
 /// The window in which the user overwrites and deletes the values of variable V; the main window, which is disabled
 /// meanwhile, has filled the grid. A text box floats over the current cell of the grid and always holds its text. While
 /// it is visible, every change of its text is stored at once, in the grid and in the model.
@@ -15,10 +13,17 @@ class frmVars : public Form, public VarsControls {
   Q_OBJECT
 
  public:
-  frmVars(Dimension& model, frmTavimor& main);
+  explicit frmVars(Dimension& model);
 
-  /// Shows the window with the first value as the current one.
-  void open();
+  /// Shows the window above another one, with the first value as the current one.
+  void open(Form& above);
+
+ signals:
+  /// A value of variable v was deleted: it has one less, and the function belongs to another grid.
+  void ValueDeleted(Long v);
+
+  /// The user has done with the window.
+  void Finished();
 
  protected:
   void Form_Unload() override;
@@ -44,7 +49,6 @@ class frmVars : public Form, public VarsControls {
   void finish();
 
   Dimension& model_;
-  frmTavimor& main_;
 };
 
 }  // namespace tavimor

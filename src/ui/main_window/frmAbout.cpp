@@ -5,10 +5,14 @@
 #include <QScreen>
 
 #include "ui/controls/fonts.h"
+#include "ui/controls/message_box.h"
 
 namespace tavimor {
 
 namespace {
+
+constexpr char kNotice1[] = "Copyright 2026 the Tavimor developers";
+constexpr char kNotice2[] = "Free software under the MIT License";
 
 constexpr int kColumns = 48;  // characters
 constexpr int kRows = 12;
@@ -54,5 +58,18 @@ void frmAbout::keyPressEvent(QKeyEvent* event) {
 }
 
 void frmAbout::Form_Click() { unload(); }
+
+frmAbout& ShowAbout() {
+  if (auto* shown = Form::openForm<frmAbout>()) {
+    shown->raise();
+    shown->activateWindow();
+    return *shown;
+  }
+  auto* about = new frmAbout;
+  about->show();
+  for (const char* line : {"", "", "", kTitle, "", kNotice1, "", kNotice2, "", kWebAddress})
+    about->Print(QLatin1String(line));
+  return *about;
+}
 
 }  // namespace tavimor

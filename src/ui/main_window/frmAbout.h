@@ -30,4 +30,10 @@ class frmAbout : public Form {
   QStringList lines_;
 };
 
+/// The maker's address on the web.
+inline constexpr char kWebAddress[] = "www.tavimor.example";
+
+/// Shows the About window with its lines, or brings the one that is open to the front.
+frmAbout& ShowAbout();
+
 }  // namespace tavimor

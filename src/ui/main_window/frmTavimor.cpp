@@ -4,10 +4,9 @@
 #include <QDir>
 
 #include "engine/Compute.h"
-#include "engine/evaluate.h"
-#include "model/value_lists.h"
+#include "platform/decimal_separator.h"
 #include "ui/controls/message_box.h"
-#include "ui/start_up/SubMain.h"
+#include "ui/main_window/frmAbout.h"
 
 namespace tavimor {
 

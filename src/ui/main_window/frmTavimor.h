@@ -3,8 +3,8 @@
 #include <optional>
 #include <string>
 
+#include "formats/open_problem.h"
 #include "model/Dimension.h"
-#include "model/spec_fields.h"
 #include "script/ScriptHost.h"
 #include "ui/controls/common_dialog.h"
 #include "ui/controls/form.h"
@@ -46,9 +46,6 @@ class frmTavimor : public Form, private MainControls {
   /// Opens a problem as the Open command does once a file is chosen.
   void openFile(const std::string& path);
 
-  /// Shows the number of values of variable v, which has changed, and drops the results: they belong to another grid.
-  void numberOfValuesChanged(Long v);
-
   ScriptHost ScriptControl1;
   Printer printer;  // one for the whole run: the next report begins with the printer and the paper of the last one
   Long ierr = 0;    // the last run-time error that a function of the script object met
@@ -86,7 +83,7 @@ class frmTavimor : public Form, private MainControls {
   void takeSaveName();
   void saveIfNamed();
   void SaveProblem();
-  void showOpened(Dimension opened, const AllSpecFields& fields);
+  void showOpened(OpenedProblem opened);
 
   // Compute and listing
   void cmdCompute_Click();
@@ -102,9 +99,10 @@ class frmTavimor : public Form, private MainControls {
   void cmdAddVars_Click(Long Index);
   void cmdEditFun_Click();
   void EditVarValues(Long v);
+  void numberOfValuesChanged(Long v);
   void doubleValuesColumn();
   frmVars& valuesWindow();
-  void giveDefaultValues(Long v);
+  void giveValuesAndFixTheirNumber(Long v);
   std::optional<PerVariable<Long>> askForStartingSet();
 
   // Help

@@ -13,7 +13,7 @@ void frmTavimor::cmdEditVars_Click(Long Index) {
   CaptureSpecs();
   blocks.at(Index).chkSpaced->setChecked(false);
   model_.V = Index;
-  giveDefaultValues(Index);
+  giveValuesAndFixTheirNumber(Index);
   EditVarValues(Index);
 }
 
@@ -26,15 +26,15 @@ void frmTavimor::cmdAddVars_Click(Long Index) {
                            QStringLiteral("Add values for variable %1").arg(name));
   model_.AddCount[Index] = ValLong(model_.InText);
   if (model_.AddCount[Index] == 0) return;
-  giveDefaultValues(Index);
+  giveValuesAndFixTheirNumber(Index);
   addValues(model_, Index);
   numberOfValuesChanged(Index);
   EditVarValues(Index);
 }
 
-void frmTavimor::giveDefaultValues(Long v) {
+void frmTavimor::giveValuesAndFixTheirNumber(Long v) {
   if (!model_.ValuesGiven[v]) blocks.at(v).txtPoints->setEnabled(false);
-  tavimor::giveDefaultValues(model_, v);
+  giveDefaultValues(model_, v);
 }
 
 void frmTavimor::cmdEditFun_Click() {
@@ -44,11 +44,13 @@ void frmTavimor::cmdEditFun_Click() {
   CaptureSpecs();
   for (Long v = 0; v <= model_.LastVar; ++v) {
     blocks.at(v).txtPoints->setEnabled(false);
-    tavimor::giveDefaultValues(model_, v);
+    giveDefaultValues(model_, v);
   }
   model_.StartIdx = *start;
   disable();
-  (new frmFun(model_, *this))->showAbove(*this);
+  auto* window = new frmFun(model_);
+  connect(window, &frmFun::Finished, this, &Form::enable);
+  window->showAbove(*this);
 }
 
 std::optional<PerVariable<Long>> frmTavimor::askForStartingSet() {

@@ -1,11 +1,9 @@
 #include <QStringList>
 #include <utility>
 
-#include "formats/open_problem.h"
-#include "formats/save_problem.h"
-#include "runtime/bad_file.h"
+#include "formats/problem_writer.h"
+#include "runtime/failure.h"
 #include "runtime/number_text.h"
-#include "runtime/run_time_error.h"
 #include "runtime/val.h"
 #include "ui/controls/message_box.h"
 #include "ui/main_window/frmTavimor.h"
@@ -28,32 +26,28 @@ void frmTavimor::mnuOpen_Click() {
 
 void frmTavimor::openFile(const std::string& path) {
   cdbFile.FileName = unreadableFile_ = path;
-  Dimension opened = model_;
-  AllSpecFields fields = specFields();
   try {
-    openProblem(path, opened, fields);
-  } catch (const BadFile& error) {
-    reportUnopened(error.path, error.what());
-    return;
-  } catch (const RunTimeError& error) {
-    reportUnopened(error.path().empty() ? path : error.path(), error.report());
-    return;
+    OpenedProblem opened = openProblem(path);
+    unreadableFile_.clear();
+    model_.FileName = path;
+    showOpened(std::move(opened));
+  } catch (const Failure& failure) {
+    reportUnopened(failure.path().empty() ? path : failure.path(), failure.report());
   }
-  opened.FileName = path;
-  unreadableFile_.clear();
-  showOpened(std::move(opened), fields);
 }
 
-void frmTavimor::showOpened(Dimension opened, const AllSpecFields& fields) {
-  model_.LoadingFile = opened.LoadingFile = true;
+void frmTavimor::showOpened(OpenedProblem opened) {
+  model_.LoadingFile = true;
   txtOrder->setEnabled(false);
   txtVarNams->setEnabled(false);
   blocks.at(model_.V).txtPoints->setEnabled(false);
-  model_.LastVar = opened.LastVar;
+  model_.LastVar = opened.problem.LastVar;
   LoadObjects();
-  model_ = std::move(opened);
+  static_cast<Problem&>(model_) = std::move(opened.problem);
+  static_cast<Fit&>(model_) = std::move(opened.fit);
+  model_.StartIdx = {};
   for (Long k = 0; k <= model_.LastVar; ++k)
-    blocks[k].txtExpansion->setText(QString::fromStdString(fields[k].txtExpansion));
+    blocks[k].txtExpansion->setText(QString::fromStdString(opened.fields[k].txtExpansion));
   SetDisplayedSpecs();
   ShowFitIfDone();
   mnuOpen->setEnabled(false);
@@ -87,6 +81,8 @@ void frmTavimor::LoadObjects() {
     terms[k] = ValLong(blocks[k].txtTerms->text().toStdString());
     points[k] = ValLong(blocks[k].txtPoints->text().toStdString());
   }
+  // By the numbers as they stand: a count is one more than the last index. The tables get their bounds from the model
+  // when a field is left, a file read or the specifications captured; until then nothing looks at them.
   model_.Coef.redim(terms);
   model_.F.redim(points);
 }
@@ -117,7 +113,7 @@ void frmTavimor::saveIfNamed() {
 
 void frmTavimor::SaveProblem() {
   CaptureSpecs();
-  tavimor::SaveProblem(model_, specFields(), model_.FileName);
+  writeProblem(model_, model_, model_.FileName);
 }
 
 }  // namespace tavimor

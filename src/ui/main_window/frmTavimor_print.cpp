@@ -1,5 +1,6 @@
 #include <QFileInfo>
 
+#include "report/listing.h"
 #include "report/report_lines.h"
 #include "ui/main_window/frmTavimor.h"
 
@@ -35,8 +36,9 @@ void frmTavimor::mnuPrint_Click() {
   const ReportOnPrinter report(printer);
   CaptureSpecs();
   printer.DocumentName = documentName(model_.FileName);
+  printer.TermIndent = kTermColumn - 1;
   if (cdbFile.ShowPrinter(printer.device()) == DialogEnd::Cancelled) return;
-  reportLines(model_, [this](const std::string& line) { printer.Print(line); });
+  reportLines(model_, model_, [this](const std::string& line) { printer.Print(line); });
   printer.EndDoc();
 }
 

@@ -3,7 +3,7 @@
 
 #include "model/capture_specs.h"
 #include "model/value_lists.h"
-#include "report/results_text.h"
+#include "report/listing.h"
 #include "ui/controls/wait_pointer.h"
 #include "ui/main_window/frmTavimor.h"
 
@@ -48,8 +48,9 @@ void frmTavimor::fitTablesToSpecs() {
 
 void frmTavimor::ShowResults() {
   QStringList lines;
-  tavimor::ShowResults(model_, [&lines](const std::string& line) { lines << QString::fromStdString(line); });
+  tavimor::ShowResults(model_, model_, [&lines](const std::string& line) { lines << QString::fromStdString(line); });
   lstCoeff->addItems(lines);
+  setTermIndices(model_, model_.Degree);  // as the walk over the terms leaves them
 }
 
 void frmTavimor::ShowFitIfDone() {

@@ -15,7 +15,7 @@ void frmTavimor::setUpScript() {
 void frmTavimor::ScriptControl1_Error() { showWarning(QString::fromStdString(ScriptControl1.Error().Description)); }
 
 void frmTavimor::cmdEvaluations_Click() {
-  if (evaluations_ == nullptr || !evaluations_->isOpen()) evaluations_ = new frmEvaluations(model_, *this);
+  if (evaluations_ == nullptr || !evaluations_->isOpen()) evaluations_ = new frmEvaluations(model_, ScriptControl1);
   evaluations_->show();
   evaluations_->raise();
   evaluations_->activateWindow();

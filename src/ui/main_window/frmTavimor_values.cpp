@@ -1,3 +1,4 @@
+#include "model/value_lists.h"
 #include "runtime/number_text.h"
 #include "ui/data_windows/frmVars.h"
 #include "ui/main_window/frmTavimor.h"
@@ -16,7 +17,11 @@ QString text(Number number) {
 frmTavimor::~frmTavimor() { delete valuesWindow_; }
 
 frmVars& frmTavimor::valuesWindow() {
-  if (valuesWindow_ == nullptr || !valuesWindow_->isOpen()) valuesWindow_ = new frmVars(model_, *this);
+  if (valuesWindow_ == nullptr || !valuesWindow_->isOpen()) {
+    valuesWindow_ = new frmVars(model_);
+    connect(valuesWindow_, &frmVars::ValueDeleted, this, &frmTavimor::numberOfValuesChanged);
+    connect(valuesWindow_, &frmVars::Finished, this, &Form::enable);
+  }
   return *valuesWindow_;
 }
 
@@ -30,7 +35,7 @@ void frmTavimor::EditVarValues(Long v) {
   model_.V = v;
   disable();
   PopulateGridVars(v);
-  valuesWindow().open();
+  valuesWindow().open(*this);
 }
 
 void frmTavimor::PopulateGridVars(Long v) {
@@ -42,12 +47,12 @@ void frmTavimor::PopulateGridVars(Long v) {
   grid.setColAlignment(1, CellAlignment::CentreCentre);
   for (Long i = 0; i <= model_.LastPoint[v]; ++i) {
     grid.setTextMatrix(i, 0, QStringLiteral("%1(%2)=").arg(name, text(i)));
-    GetVarX(v, i);
-    grid.setTextMatrix(i, 1, text(model_.VarX));
+    grid.setTextMatrix(i, 1, text(valueOf(model_, v, i)));
   }
   valuesWindow().setWindowTitle(QStringLiteral("Enter/edit values of variable: ") + name);
 }
 
+// The results belong to another grid than the one that variable v has now.
 void frmTavimor::numberOfValuesChanged(Long v) {
   blocks.at(v).txtPoints->setText(text(model_.LastPoint[v] + 1));
   ClearResults();

@@ -4,13 +4,10 @@
 #include <QElapsedTimer>
 #include <QThread>
 #include <QWindow>
-#include <algorithm>
 #include <chrono>
-#include <optional>
 #include <thread>
-#include <vector>
 
-#include "platform/locale.h"
+#include "platform/decimal_separator.h"
 #include "ui/controls/message_box.h"
 #include "ui/main_window/frmAbout.h"
 #include "ui/main_window/frmTavimor.h"
@@ -18,13 +15,6 @@
 namespace tavimor {
 
 namespace {
-
-constexpr char kPoint[] = ".";
-constexpr char kNotice1[] = "Copyright 2026 the Tavimor developers";
-constexpr char kNotice2[] = "Free software under the MIT License";
-constexpr char kWebAddress[] = "www.tavimor.example";
-
-std::optional<std::string> savedSeparator;
 
 QString decimalCommaWarning() {
   return QStringLiteral(
@@ -35,10 +25,6 @@ QString decimalCommaWarning() {
              "(See HELP FILE or visit %1 for instructions on how to change MANUALLY)\r\r"
              "Press YES to change.")
       .arg(QLatin1String(kWebAddress));
-}
-
-bool setSeparator(const std::string& text) {
-  return SetLocaleInfo(GetUserDefaultLCID(), LocaleItem::DecimalSeparator, text);
 }
 
 // The window system shows a window in its own time.
@@ -61,41 +47,14 @@ void waitForThirdSecond() {
 
 }  // namespace
 
-void ReadDecimalSeparator() {
-  const LocaleId user = GetUserDefaultLCID();
-  std::vector<char> text(GetLocaleInfo(user, LocaleItem::DecimalSeparator, {}));
-  GetLocaleInfo(user, LocaleItem::DecimalSeparator, text);
-  savedSeparator.emplace(text.begin(), std::find(text.begin(), text.end(), '\0'));
-}
-
-void SetDecimalPoint() { setSeparator(kPoint); }
-
-void RestoreDecimalSeparator() {
-  if (savedSeparator) setSeparator(*savedSeparator);
-}
-
 StartUp DecimalPoint() {
-  ReadDecimalSeparator();
-  if (savedSeparator == kPoint) return StartUp::GoesOn;
+  if (ReadDecimalSeparator() == ".") return StartUp::GoesOn;
   switch (askCritical(decimalCommaWarning(), QStringLiteral("Decimal Comma Warning!"))) {
     case Answer::Yes: SetDecimalPoint(); return StartUp::GoesOn;
     case Answer::No:
     case Answer::Cancel: return StartUp::Declined;
   }
   return StartUp::GoesOn;
-}
-
-frmAbout& ShowAbout() {
-  if (auto* shown = Form::openForm<frmAbout>()) {
-    shown->raise();
-    shown->activateWindow();
-    return *shown;
-  }
-  auto* about = new frmAbout;
-  about->show();
-  for (const char* line : {"", "", "", kTitle, "", kNotice1, "", kNotice2, "", kWebAddress})
-    about->Print(QLatin1String(line));
-  return *about;
 }
 
 frmTavimor* Main(Dimension& model) {

@@ -49,7 +49,7 @@ int main(int argc, char** argv) {
 
   QApplication::setQuitOnLastWindowClosed(false);
   Dimension model;
-  application.setProblemSaver([&model](const std::string& path) { writeProblem(model, path); });
+  application.setProblemSaver([&model](const std::string& path) { writeProblem(model, model, path); });
   frmTavimor* window = Main(model);
   if (window == nullptr) return 0;
   unloadOnEndRequest(*window);

@@ -8,6 +8,7 @@
 #include <QTest>
 #include <new>
 
+#include "runtime/run_time_error.h"
 #include "ui/support/dialogs.h"
 
 namespace tavimor {

@@ -3,7 +3,7 @@
 #include <QElapsedTimer>
 #include <QScrollBar>
 
-#include "formats/problem_writer.h"
+#include "support/stored.h"
 #include "ui/support/main_window_test.h"
 
 namespace tavimor {
@@ -12,7 +12,7 @@ namespace {
 class ComputeButton : public MainWindowTest {
  protected:
   ComputeButton() {
-    writeProblem(twoVariables(), file("problem"));
+    test::store(twoVariables(), file("problem"));
     open("problem");
   }
 };
@@ -81,7 +81,7 @@ TEST_F(Listing, OfTenThousandCoefficientsAppearsAtOnce) {
   problem.F.redim(problem.LastPoint);
   problem.Coef.redim(problem.Degree);
   problem.FitDone = true;
-  writeProblem(problem, file("large"));
+  test::store(problem, file("large"));
   QElapsedTimer timer;
   dialogs.expectAndType(pathOf("large"), [&timer] { timer.start(); });
   press(Qt::Key_O, Qt::ControlModifier);

@@ -2,7 +2,7 @@
 
 #include <QFile>
 
-#include "formats/problem_writer.h"
+#include "support/stored.h"
 #include "ui/controls/application.h"
 #include "ui/support/main_window_test.h"
 
@@ -43,7 +43,7 @@ TEST_F(EditValues, KeepsValuesThatWereTyped) {
 class AddValuesButton : public MainWindowTest {
  protected:
   AddValuesButton() {
-    writeProblem(twoVariables(), file("problem"));
+    test::store(twoVariables(), file("problem"));
     open("problem");
   }
 };

@@ -4,7 +4,7 @@
 #include <QMenuBar>
 #include <QTextBrowser>
 
-#include "formats/problem_writer.h"
+#include "support/stored.h"
 #include "ui/controls/help/help_file.h"
 #include "ui/support/help_viewer_test.h"
 #include "ui/support/main_window_test.h"
@@ -20,7 +20,7 @@ class Help : public MainWindowTest {
     for (const char* name : {"frmTavimor", "frmVars", "frmFun", "frmEvaluations", "frmAbout"})
       text += "<h1><a name=\"" + QByteArray(name) + "\"></a>About " + name + "</h1>" + longText(name);
     writeFile("tavimor.hlp", text);
-    writeProblem(twoVariables(), file("two"));
+    test::store(twoVariables(), file("two"));
   }
 
   /// Presses F1 where the focus is and returns the page that the help window, which comes to front, goes to.

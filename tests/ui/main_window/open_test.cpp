@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "engine/Compute.h"
-#include "formats/problem_writer.h"
+#include "support/stored.h"
 #include "ui/support/main_window_test.h"
 
 namespace tavimor {
@@ -14,7 +14,7 @@ class Open : public MainWindowTest {
     problem.NumGridPoints = 6;
     Compute(problem, [](const std::string&) {});
     ASSERT_TRUE(problem.FitDone);
-    writeProblem(problem, file(name));
+    test::store(problem, file(name));
   }
 
   void expectStart() {
@@ -31,7 +31,7 @@ class Open : public MainWindowTest {
 };
 
 TEST_F(Open, ShowsTheSpecifications) {
-  writeProblem(twoVariables(), file("problem"));
+  test::store(twoVariables(), file("problem"));
   open("problem");
   EXPECT_EQ(textOf("txtOrder"), "2");
   EXPECT_EQ(textOf("txtVarNams"), "x,y");
@@ -47,7 +47,7 @@ TEST_F(Open, ShowsTheSpecifications) {
 }
 
 TEST_F(Open, FillsTheModel) {
-  writeProblem(twoVariables(), file("problem"));
+  test::store(twoVariables(), file("problem"));
   open("problem");
   const Dimension written = twoVariables();
   EXPECT_EQ(model.LastPoint, written.LastPoint);
@@ -58,7 +58,7 @@ TEST_F(Open, FillsTheModel) {
 }
 
 TEST_F(Open, WithoutAFitBringsTheNamesGivenState) {
-  writeProblem(twoVariables(), file("problem"));
+  test::store(twoVariables(), file("problem"));
   open("problem");
   EXPECT_FALSE(box("txtOrder").isEnabled());
   EXPECT_FALSE(box("txtVarNams").isEnabled());
@@ -80,7 +80,7 @@ TEST_F(Open, WithAFitListsItAndEnablesTheEvaluations) {
 }
 
 TEST_F(Open, DisablesTheNumberOfValuesOfTheCurrentVariableOnly) {
-  writeProblem(twoVariables(), file("problem"));
+  test::store(twoVariables(), file("problem"));
   open("problem");
   EXPECT_FALSE(box("txtPoints(0)").isEnabled());
   EXPECT_TRUE(box("txtPoints(1)").isEnabled());
@@ -102,7 +102,7 @@ TEST_F(Open, CalledOffTheFirstTimeChangesNothing) {
 }
 
 TEST_F(Open, ABrokenFileIsReportedAndLeavesEverything) {
-  writeProblem(twoVariables(), file("broken"));
+  test::store(twoVariables(), file("broken"));
   writeFile("broken.dat", " 1 \r\n two \r\n");
   type("3");
   QString reason;
@@ -158,7 +158,7 @@ TEST_F(Open, TheFieldsThatItFillsDoNotDropTheFit) {
 }
 
 TEST_F(Open, FromTheMenuByLettersWorksToo) {
-  writeProblem(twoVariables(), file("problem"));
+  test::store(twoVariables(), file("problem"));
   dialogs.expectAndType(pathOf("problem"));
   press(Qt::Key_F, Qt::AltModifier);
   QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_O);

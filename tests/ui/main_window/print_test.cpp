@@ -5,9 +5,9 @@
 #include <QLineEdit>
 #include <QMenu>
 
-#include "formats/problem_writer.h"
 #include "report/report_lines.h"
 #include "support/problem.h"
+#include "support/stored.h"
 #include "ui/controls/application.h"
 #include "ui/support/main_window_test.h"
 #include "ui/support/printed_pdf.h"
@@ -39,7 +39,7 @@ std::vector<Axis> axes(int count) {
 class Print : public MainWindowTest {
  protected:
   void openProblem(const Dimension& problem) {
-    writeProblem(problem, file("problem"));
+    test::store(problem, file("problem"));
     open("problem");
   }
 
@@ -54,7 +54,7 @@ class Print : public MainWindowTest {
   /// What the command line's report command prints for the window's problem.
   Lines report() const {
     Dimension copy = model;
-    return onPaper(test::linesOf([&](const LineSink& print) { reportLines(copy, print); }));
+    return onPaper(test::linesOf([&](const LineSink& print) { reportLines(copy, copy, print); }));
   }
 
   Lines printed() const { return readPdf(pdf).lines(); }

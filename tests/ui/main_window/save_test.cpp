@@ -5,7 +5,7 @@
 #include <csignal>
 
 #include "formats/problem_reader.h"
-#include "formats/problem_writer.h"
+#include "support/stored.h"
 #include "ui/controls/application.h"
 #include "ui/controls/polite_end.h"
 #include "ui/support/main_window_test.h"
@@ -30,12 +30,11 @@ TEST_F(Save, OfANewProblemAsksForTheNameAndWritesBothFiles) {
 }
 
 TEST_F(Save, OfAProblemWithANameAsksNothing) {
-  writeProblem(twoVariables(), file("problem"));
+  test::store(twoVariables(), file("problem"));
   open("problem");
   enter("txtUL(0)", "5");
   saveByKey();
-  Dimension saved;
-  readProblem(file("problem"), saved);
+  const Dimension saved = test::stored(file("problem"));
   EXPECT_EQ(saved.UpperLimit[0], 5);
   EXPECT_TRUE(saved.PeriodFlag[0]);
 }
@@ -49,7 +48,7 @@ TEST_F(Save, CalledOffWritesNothing) {
 }
 
 TEST_F(Save, AsAlwaysAsksAndTakesTheNewName) {
-  writeProblem(twoVariables(), file("problem"));
+  test::store(twoVariables(), file("problem"));
   open("problem");
   dialogs.expectAndType(pathOf("other"));
   saveAsByKey();
@@ -80,7 +79,7 @@ class SaveAtTheEnd : public Save, public testing::WithParamInterface<Ending> {
 };
 
 TEST_P(SaveAtTheEnd, WritesNothing) {
-  writeProblem(twoVariables(), file("problem"));
+  test::store(twoVariables(), file("problem"));
   open("problem");
   const QByteArray before = contentOf("problem");
   enter("txtUL(0)", "5");
@@ -98,7 +97,7 @@ INSTANTIATE_TEST_SUITE_P(FromOutside, SaveAtTheEnd,
                          [](const auto& param) { return param.param.name; });
 
 TEST_F(Save, AsAsksBeforeItReplacesAPair) {
-  writeProblem(twoVariables(), file("problem"));
+  test::store(twoVariables(), file("problem"));
   declare("1", "x");
   dialogs.expectAndType(pathOf("problem"));
   dialogs.expectAndPress("No");
@@ -121,7 +120,7 @@ TEST_F(Save, NeverReplacesUnaskedAFileThatCouldNotBeOpened) {
 }
 
 TEST_F(Save, AfterAnAdditionGoesToTheWorkFile) {
-  writeProblem(twoVariables(), file("problem"));
+  test::store(twoVariables(), file("problem"));
   open("problem");
   const QByteArray before = contentOf("problem");
   dialogs.expectAndType("1");
@@ -134,12 +133,11 @@ TEST_F(Save, AfterAnAdditionGoesToTheWorkFile) {
 }
 
 TEST_F(Save, OfAFitWritesItAndItOpensAgain) {
-  writeProblem(twoVariables(), file("problem"));
+  test::store(twoVariables(), file("problem"));
   open("problem");
   click("cmdCompute");
   saveByKey();
-  Dimension saved;
-  readProblem(file("problem"), saved);
+  const Dimension saved = test::stored(file("problem"));
   EXPECT_TRUE(saved.FitDone);
   EXPECT_NEAR(saved.Coef(2, 0, 0, 0), 3, 1e-12);
   EXPECT_EQ(saved.NumGridPoints, 6);
@@ -153,8 +151,7 @@ TEST_F(Save, InTheMiddleOfAnEntryLaysTheTablesOutForIt) {
   dialogs.expectAndType(pathOf("new"));
   saveByKey();
   EXPECT_FALSE(model.FitDone);
-  Dimension saved;
-  readProblem(file("new"), saved);
+  const Dimension saved = test::stored(file("new"));
   EXPECT_EQ(saved.LastPoint[0], 4);
   EXPECT_EQ(saved.X0, (std::vector<double>{0, 0.25, 0.5, 0.75, 1}));
 }

@@ -7,6 +7,7 @@
 #include <QPointer>
 #include <QTest>
 
+#include "platform/decimal_separator.h"
 #include "support/user_locale.h"
 #include "ui/main_window/frmAbout.h"
 #include "ui/main_window/frmTavimor.h"

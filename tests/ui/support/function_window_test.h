@@ -33,7 +33,8 @@ class FunctionWindowTest : public testing::Test {
     model.StartIdx = start;
     main->show();
     main->disable();
-    window = new frmFun(model, *main);
+    window = new frmFun(model);
+    QObject::connect(window, &frmFun::Finished, main, &Form::enable);
     window->show();
     window->activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(window));

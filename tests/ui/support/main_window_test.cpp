@@ -4,7 +4,7 @@
 #include <QFile>
 
 #include "model/value_lists.h"
-#include "report/results_text.h"
+#include "report/listing.h"
 #include "ui/controls/control_array.h"
 
 namespace tavimor {
@@ -102,7 +102,7 @@ void MainWindowTest::activate() {
 
 std::string engineListing(Dimension model) {
   std::string text;
-  ShowResults(model, [&text](const std::string& line) { text += line + '\n'; });
+  ShowResults(model, model, [&text](const std::string& line) { text += line + '\n'; });
   return text;
 }
 

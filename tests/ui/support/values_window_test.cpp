@@ -1,15 +1,15 @@
 #include "ui/support/values_window_test.h"
 
-#include "formats/problem_writer.h"
 #include "model/value_lists.h"
 #include "runtime/number_text.h"
 #include "runtime/val.h"
+#include "support/stored.h"
 #include "ui/controls/control_array.h"
 
 namespace tavimor {
 
 ValuesWindowTest::ValuesWindowTest() {
-  writeProblem(twoVariables(), file("problem"));
+  test::store(twoVariables(), file("problem"));
   open("problem");
 }
 

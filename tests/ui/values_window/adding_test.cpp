@@ -5,7 +5,7 @@
 #include <QFile>
 
 #include "formats/open_problem.h"
-#include "formats/problem_writer.h"
+#include "support/stored.h"
 #include "ui/controls/application.h"
 #include "ui/support/values_window_test.h"
 
@@ -103,7 +103,7 @@ TEST_F(AddingValues, AWorkFileThatCannotBeWrittenEndsTheProgramWithTheProblemSav
   auto& application = *static_cast<Application*>(qApp);
   std::vector<int> endedWith;
   application.setEnding([&](int exitCode) { endedWith.push_back(exitCode); });
-  application.setProblemSaver([this](const std::string& path) { writeProblem(model, path); });
+  application.setProblemSaver([this](const std::string& path) { test::store(model, path); });
   QDir().mkdir(pathOf("FUNCTION"));
   QString text;
   dialogs.expectAndType("2");
@@ -117,9 +117,7 @@ TEST_F(AddingValues, AWorkFileThatCannotBeWrittenEndsTheProgramWithTheProblemSav
   EXPECT_TRUE(text.contains(pathOf("FUNCTION"))) << text.toStdString();
   EXPECT_EQ(endedWith, std::vector<int>{1});
   EXPECT_FALSE(values().isVisible());
-  Dimension copy;
-  AllSpecFields fields;
-  openProblem(file("copy"), copy, fields);
+  const Dimension copy = test::stored(file("copy"));
   EXPECT_EQ(copy.X0, twoVariables().X0);
   for (Long i = 0; i <= 2; ++i)
     for (Long j = 0; j <= 1; ++j) EXPECT_EQ(copy.F(i, j, 0, 0), twoVariables().F(i, j, 0, 0));

@@ -43,7 +43,7 @@ class EvaluationsWindow : public testing::Test {
   }
 
   void open() {
-    window = new frmEvaluations(model, *main);
+    window = new frmEvaluations(model, main->ScriptControl1);
     window->show();
     window->activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(window));

@@ -345,7 +345,7 @@ TEST_F(FunctionWindow, ItIsMadeAfreshAtEveryOpening) {
   click("cmdExit");
   QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   model.StartIdx = {1, 1};
-  window = new frmFun(model, *main);
+  window = new frmFun(model);
   window->show();
   EXPECT_FALSE(model.Updating);
   expectAllBoxesShow({1, 1});

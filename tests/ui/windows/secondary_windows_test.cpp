@@ -1,7 +1,7 @@
 #include <gmock/gmock.h>
 
-#include "formats/problem_writer.h"
 #include "runtime/run_time_error.h"
+#include "support/stored.h"
 #include "ui/data_windows/frmEvaluations.h"
 #include "ui/data_windows/frmFun.h"
 #include "ui/support/main_window_test.h"
@@ -15,7 +15,7 @@ using ::testing::StartsWith;
 class SecondaryWindows : public MainWindowTest {
  protected:
   SecondaryWindows() {
-    writeProblem(twoVariables(), file("two"));
+    test::store(twoVariables(), file("two"));
     window->openFile(file("two"));
   }
 

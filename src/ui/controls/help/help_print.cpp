@@ -3,14 +3,14 @@
 #include <QPrinter>
 #include <memory>
 
-#include "ui/controls/common_dialog.h"
+#include "ui/controls/printing/print_dialog.h"
 
 namespace tavimor {
 
 void printHelp(const QTextDocument& document, const QString& title) {
   QPrinter printer(QPrinter::HighResolution);
   printer.setDocName(title);
-  if (CommonDialog().ShowPrinter(printer) == DialogEnd::Cancelled) return;
+  if (choosePrinter(printer) == DialogEnd::Cancelled) return;
 
   constexpr double kPointsOnPaper = 10;
   const std::unique_ptr<QTextDocument> copy(document.clone());

@@ -9,6 +9,7 @@ namespace tavimor {
 namespace {
 
 constexpr QChar kBlank = u' ';
+constexpr int kContinuation = 2;  // columns right of where terms begin
 
 QString withoutTrailingBlanks(const QString& line) {
   qsizetype length = line.size();
@@ -50,8 +51,11 @@ qsizetype breakBetween(const QString& line, qsizetype least, qsizetype most) {
 
 }  // namespace
 
-LineLayout::LineLayout(const QFont& font, QPaintDevice& device)
-    : metrics_(font, &device), pitch_(metrics_.horizontalAdvance(u'0')), width_(device.width()) {}
+LineLayout::LineLayout(const QFont& font, QPaintDevice& device, int termIndent)
+    : metrics_(font, &device),
+      pitch_(metrics_.horizontalAdvance(u'0')),
+      width_(device.width()),
+      termIndent_(termIndent) {}
 
 QList<TextRun> LineLayout::runs(const QString& line) const {
   QList<TextRun> result;
@@ -87,14 +91,14 @@ QStringList LineLayout::wrapped(const QString& line) const {
     if (length == rest.size()) break;
     lines << withoutTrailingBlanks(rest.left(length));
     const QString remaining = rest.mid(length);
-    rest = QString(kContinuationIndent, kBlank) + remaining.mid(leadingBlanks(remaining));
+    rest = QString(termIndent_ + kContinuation, kBlank) + remaining.mid(leadingBlanks(remaining));
   }
   return lines << rest;
 }
 
 // At least one character that can be seen, however narrow the device: otherwise the rest would never become shorter.
 qsizetype LineLayout::lengthThatFits(const QString& line) const {
-  const qsizetype least = std::max<qsizetype>(kTermIndent, leadingBlanks(line));
+  const qsizetype least = std::max<qsizetype>(termIndent_, leadingBlanks(line));
   const QList<qsizetype> ends = characterEnds(line);
   const auto first = std::upper_bound(ends.begin(), ends.end(), least);
   if (first == ends.end()) return line.size();

@@ -19,15 +19,13 @@ struct TextRun {
 /// The text after two or more blanks begins in its own column. So letters that the font lacks, which come from another
 /// font and can be wider, move nothing but what stands directly behind them.
 ///
-/// A line that is wider than the device goes on in further ones, which begin two columns right of where terms begin:
-/// the column of the coefficients holds nothing else. It is broken before the last "*" of a term that fits, where there
-/// is none after a blank, and otherwise in the middle of a word; no visible character is lost.
+/// A line that is wider than the device goes on in further ones, which begin two columns right of `termIndent`, the
+/// columns left of the terms: the column of the coefficients holds nothing else. It is broken before the last "*" of a
+/// term that fits, where there is none after a blank, and otherwise in the middle of a word; no visible character is
+/// lost.
 class LineLayout {
  public:
-  static constexpr int kTermIndent = 24;  // columns
-  static constexpr int kContinuationIndent = kTermIndent + 2;
-
-  LineLayout(const QFont& font, QPaintDevice& device);
+  LineLayout(const QFont& font, QPaintDevice& device, int termIndent);
 
   QStringList wrapped(const QString& line) const;
   QList<TextRun> runs(const QString& line) const;
@@ -42,6 +40,7 @@ class LineLayout {
   QFontMetricsF metrics_;
   qreal pitch_;
   qreal width_;
+  int termIndent_;
 };
 
 }  // namespace tavimor

@@ -39,14 +39,14 @@ QFont printedFont(const QString& name, QPaintDevice& device) {
   font.setKerning(false);
   int tenths = kLargestFont;
   do font.setPointSizeF(tenths / 10.0);
-  while (!LineLayout(font, device).fits(QString(kColumns, u'0')) && --tenths > 0);
+  while (!LineLayout(font, device, 0).fits(QString(kColumns, u'0')) && --tenths > 0);
   return font;
 }
 
-LinePages::LinePages(const QStringList& lines, const QString& fontName, QPagedPaintDevice& device)
+LinePages::LinePages(const QStringList& lines, const QString& fontName, int termIndent, QPagedPaintDevice& device)
     : device_(device),
       font_(printedFont(fontName, device)),
-      layout_(font_, device),
+      layout_(font_, device, termIndent),
       lines_(wrappedLines(lines, layout_)),
       linesPerPage_(std::max(1, static_cast<int>(device.height() / layout_.spacing()))) {}
 

@@ -16,10 +16,10 @@ namespace tavimor {
 QFont printedFont(const QString& name, QPaintDevice& device);
 
 /// Lines on the pages of a device, flowing from one to the next between the margins. Empty lines at the end take no
-/// page of their own.
+/// page of their own. Long lines are wrapped beside `termIndent` (see LineLayout).
 class LinePages {
  public:
-  LinePages(const QStringList& lines, const QString& fontName, QPagedPaintDevice& device);
+  LinePages(const QStringList& lines, const QString& fontName, int termIndent, QPagedPaintDevice& device);
 
   int count() const;
 

@@ -1,8 +1,8 @@
+#include "ui/controls/printing/print_dialog.h"
+
 #include <QApplication>
 #include <QPrintDialog>
 #include <QPrinter>
-
-#include "ui/controls/common_dialog.h"
 
 namespace tavimor {
 
@@ -38,7 +38,7 @@ class PrintTarget {
 
 }  // namespace
 
-DialogEnd CommonDialog::ShowPrinter(QPrinter& printer) {
+DialogEnd choosePrinter(QPrinter& printer) {
   printer.setPageRanges({});
   printer.setPrintRange(QPrinter::AllPages);
   printer.setCopyCount(1);

@@ -93,7 +93,7 @@ void Printer::printToFile(const QStringList& lines) {
   writer.setPageLayout(printer.pageLayout());
   writer.setTitle(printer.docName());
   writer.setCreator(printer.creator());
-  LinePages pages(lines, QString::fromStdString(FontName), writer);
+  LinePages pages(lines, QString::fromStdString(FontName), TermIndent, writer);
   const QList<int> chosen = existingPages(pages, printer);
   if (chosen.isEmpty()) return;
   if (!paint(pages, chosen) || !file.commit()) throw printerError(path);
@@ -102,7 +102,7 @@ void Printer::printToFile(const QStringList& lines) {
 void Printer::printToQueue(const QStringList& lines) {
   QPrinter& printer = device();
   if (!printer.isValid()) throw printerError(printer.printerName());
-  LinePages pages(lines, QString::fromStdString(FontName), printer);
+  LinePages pages(lines, QString::fromStdString(FontName), TermIndent, printer);
   const QList<int> chosen = existingPages(pages, printer);
   if (chosen.isEmpty()) return;
   if (paint(pages, chosen) && queueTookLastJob()) return;

@@ -23,6 +23,7 @@ class Printer {
 
   std::string FontName;      // at first the font of the windows
   std::string DocumentName;  // what the print queue shows
+  int TermIndent = 0;        // columns left of where terms begin, beside which a long line goes on
 
   /// Adds a line to the document.
   void Print(const std::string& line);

@@ -44,10 +44,13 @@ Lines numbered(int count) {
   return lines;
 }
 
+constexpr int kTermIndent = 24;  // columns, as of a listing
+
 class PrinterTest : public testing::Test {
  protected:
   PrinterTest() {
     printer.FontName = "Courier New";
+    printer.TermIndent = kTermIndent;
     printer.device().setOutputFileName(path);
     printer.device().setPageSize(QPageSize(QPageSize::A4));
   }
@@ -215,7 +218,7 @@ TEST_F(PrinterTest, PrintsNamesInOtherLetters) {
 
 TEST_F(PrinterTest, KeepsTheColumnAfterLettersThatTheFontLacks) {
   QPdfWriter device(path);
-  const LineLayout layout(printedFont("Courier New", device), device);
+  const LineLayout layout(printedFont("Courier New", device), device, kTermIndent);
   const auto columnOf = [&](const char* line) { return layout.runs(QString::fromUtf8(line)).constLast().x; };
   EXPECT_EQ(columnOf("   温度=0.5      FUNCTION=1"), columnOf("   ab=0.5      FUNCTION=1"));
   EXPECT_EQ(columnOf("   𝛼=0.5       FUNCTION=1"), columnOf("   a=0.5       FUNCTION=1"));

@@ -12,7 +12,7 @@ InstructionSet widestInstructionSet();
 bool hasInstructionSet(InstructionSet set);
 
 /// How a fit is to be run; the result does not depend on it.
-struct ComputeOptions {
+struct FitOptions {
   int threads = 0;  // 0: as many as pay
   InstructionSet instructionSet = widestInstructionSet();
   std::function<void(double)> progress;  // told the share of the work that is done, 0..1

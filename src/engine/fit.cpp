@@ -1,0 +1,109 @@
+#include "engine/fit.h"
+
+#include <future>
+#include <new>
+#include <optional>
+#include <utility>
+#include <vector>
+
+#include "engine/fit_on_grid.h"
+#include "engine/right_hand_side.h"
+#include "engine/solver.h"
+#include "engine/statistics.h"
+#include "runtime/run_time_error.h"
+
+namespace tavimor {
+
+namespace {
+
+// The first axis, declared or not, on which the grid has no room for the coefficients.
+std::optional<Long> axisWithoutRoom(const Problem& problem) {
+  for (Long k = 0; k < kMaxVariables; ++k)
+    if (problem.Degree[k] > problem.LastPoint[k]) return k;
+  return std::nullopt;
+}
+
+// The normal matrices need nothing of the right-hand side. Those of long axes are made beside it, in threads of their
+// own, the others when they are asked for.
+std::vector<std::future<Gram>> normalMatrices(const Problem& problem, const FitOptions& options) {
+  constexpr double workWorthAThread = 1e7;
+  std::vector<std::future<Gram>> matrices;
+  for (Long k = 0; k <= problem.LastVar; ++k) {
+    const double terms = problem.Degree[k] + 1.0;
+    const bool pays = options.threads != 1 && problem.LastPoint[k] * terms * terms > workWorthAThread;
+    matrices.push_back(std::async(pays ? std::launch::async : std::launch::deferred,
+                                  [&problem, k, &options] { return normalMatrix(problem, k, options); }));
+  }
+  return matrices;
+}
+
+// The first variable whose system is singular; nothing where Coef has become the solution.
+std::optional<Long> solve(std::vector<std::future<Gram>> matrices, Table4& Coef) {
+  for (std::size_t k = 0; k < matrices.size(); ++k) {
+    Gram gram = matrices[k].get();
+    if (solveAlong(static_cast<Long>(k), gram, Coef) == Solution::Singular) return static_cast<Long>(k);
+  }
+  return std::nullopt;
+}
+
+// The first variable whose system is singular, found on a single line: no larger table is needed to tell.
+std::optional<Long> singularVariable(const Problem& problem, const FitOptions& options) {
+  for (Long k = 0; k <= problem.LastVar; ++k) {
+    PerVariable<Long> line{};
+    line[k] = problem.Degree[k];
+    Table4 Coef;
+    Coef.redim(line);
+    Gram gram = normalMatrix(problem, k, options);
+    if (solveAlong(k, gram, Coef) == Solution::Singular) return k;
+  }
+  return std::nullopt;
+}
+
+// With too high a degree the fitted values find no room and the fit ends with a subscript error, unless a system is
+// singular before that; the coefficients are not needed for either.
+void endWithoutRoom(const Problem& problem, Long variable, const FitOptions& options, FitOutcome& outcome) {
+  const std::optional<Long> singular = singularVariable(problem, options);
+  outcome.end = singular ? FitEnd::Singular : FitEnd::NoRoom;
+  outcome.variable = singular.value_or(variable);
+  if (!singular) outcome.ErrNumber = static_cast<Long>(ErrorNumber::SubscriptOutOfRange);
+}
+
+void fitInto(const Problem& problem, const FitOptions& options, FitOutcome& outcome) {
+  if (const auto variable = axisWithoutRoom(problem)) return endWithoutRoom(problem, *variable, options, outcome);
+  Fit& fit = outcome.fit;
+  std::vector<std::future<Gram>> matrices = normalMatrices(problem, options);
+  fit.Coef = rightHandSide(problem, options);
+  if (const auto singular = solve(std::move(matrices), fit.Coef)) {
+    outcome.end = FitEnd::Singular;
+    outcome.variable = *singular;
+    return;
+  }
+  const double sumGiven = sumOfGiven(problem.F);
+  fit.FitGrid = FitOnGrid(problem, fit.Coef, options);
+  const StatisticsOutcome statistics = fitStatistics(problem.F, fit.FitGrid, sumGiven, problem.NumGridPoints, fit);
+  static_cast<Statistics&>(fit) = statistics.figures;
+  outcome.ErrNumber = statistics.ErrNumber;
+  fit.FitDone = true;
+}
+
+void endWithError(ErrorNumber number, FitOutcome& outcome) {
+  outcome.end = FitEnd::Error;
+  outcome.ErrNumber = static_cast<Long>(number);
+}
+
+}  // namespace
+
+FitOutcome fit(const Problem& problem, const FitOptions& options, const Statistics& earlier) {
+  FitOutcome outcome;
+  static_cast<Statistics&>(outcome.fit) = earlier;
+  try {
+    fitInto(problem, options, outcome);
+  } catch (const RunTimeError& error) {
+    endWithError(error.number(), outcome);
+  } catch (const std::bad_alloc&) {
+    endWithError(ErrorNumber::OutOfMemory, outcome);
+  }
+  return outcome;
+}
+
+}  // namespace tavimor

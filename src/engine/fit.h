@@ -1,0 +1,33 @@
+#pragma once
+
+#include "engine/fit_options.h"
+#include "model/fit.h"
+#include "model/problem.h"
+
+namespace tavimor {
+
+/// How a fit ends.
+enum class FitEnd {
+  Found,     // the fit is there
+  Singular,  // the system of a variable has an exact zero on its diagonal
+  NoRoom,    // the degree of a variable is not below its number of values: the fitted values find no room
+  Error      // a run-time error that a fit does not go on after
+};
+
+/// What stands in the place of a listing where a system is singular.
+inline constexpr char kSingularMatrix[] = "YIELDS SINGULAR MATRIX.";
+
+struct FitOutcome {
+  FitEnd end = FitEnd::Found;
+  Long variable = 0;   // Singular, NoRoom: the variable
+  Long ErrNumber = 0;  // the last run-time error that was met, also one after which the fit went on; 0 if none
+  Fit fit;             // Found: the whole of it. Singular: Coef in the state that the solution has reached.
+};
+
+/// Fits the problem by least squares: the right-hand side, the solution along one variable after the other, the fitted
+/// values and the statistics. The specifications must have been captured.
+/// `earlier` gives the figures that have no value now (see fitStatistics).
+/// Errors: none; a run-time error is an outcome.
+FitOutcome fit(const Problem& problem, const FitOptions& options = {}, const Statistics& earlier = {});
+
+}  // namespace tavimor

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "model/problem.h"
+
+namespace tavimor {
+
+/// The value of a polynomial at the point with the offsets t[k] = x[k] - Centre[k]. Horner's scheme, nested from
+/// variable 3 outside to variable 0 inside:
+///   Sk = sum over ik of V(ik) * t[k]^ik,   V being the level below (Coef(i0,i1,i2,i3) at level 0).
+/// A variable with TrigFlag enters through 1, sin u, cos u, sin 2u, cos 2u, ... with u = t[k] instead of powers; the
+/// multiple angles are reached by adding u again and again.
+/// Shapes: the degrees are the bounds of Coef. Source: Knuth, The Art of Computer Programming, vol. 2, section 4.6.4.
+double valueAt(const Table4& Coef, const PerVariable<bool>& TrigFlag, const PerVariable<double>& t);
+
+/// The offsets of a point from the centres of expansion.
+PerVariable<double> offsetsFrom(const PerVariable<double>& Centre, const PerVariable<double>& x);
+
+}  // namespace tavimor

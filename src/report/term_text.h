@@ -1,0 +1,14 @@
+#pragma once
+
+#include <string>
+
+#include "model/problem.h"
+
+namespace tavimor {
+
+/// The term that the coefficient with these indices multiplies, written in the variables' names: "*x^2*(y-0.5)"; empty
+/// for the constant. PeriodFlag false writes sines and cosines, TrigFlag closes their brackets; each test stands on its
+/// own flag.
+std::string termText(const Problem& problem, const PerVariable<Long>& index);
+
+}  // namespace tavimor

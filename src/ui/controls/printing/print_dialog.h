@@ -1,0 +1,12 @@
+#pragma once
+
+#include "ui/controls/dialog_end.h"
+
+class QPrinter;
+
+namespace tavimor {
+
+/// Asks for printer or PDF file, paper, copies and pages. A call that is called off leaves the printer as it was.
+DialogEnd choosePrinter(QPrinter& printer);
+
+}  // namespace tavimor
