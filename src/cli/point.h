@@ -3,7 +3,8 @@
 #include <optional>
 #include <string_view>
 
-#include "model/table4.h"
+#include "model/per_variable.h"
+#include "runtime/long.h"
 
 namespace tavimor {
 

@@ -2,7 +2,8 @@
 
 #include <algorithm>
 
-#include "model/table4.h"
+#include "model/per_variable.h"
+#include "runtime/long.h"
 
 namespace tavimor {
 

@@ -3,7 +3,7 @@
 #include <cmath>
 #include <string>
 
-#include "model/table4.h"
+#include "model/per_variable.h"
 #include "runtime/long.h"
 
 namespace tavimor {

@@ -1,20 +1,14 @@
 #pragma once
 
-#include <array>
 #include <cstddef>
 #include <memory>
 #include <vector>
 
+#include "model/per_variable.h"
 #include "platform/memory.h"
 #include "runtime/long.h"
 
 namespace tavimor {
-
-constexpr int kMaxVariables = 4;
-
-/// One entry per variable, declared or not.
-template <class T>
-using PerVariable = std::array<T, kMaxVariables>;
 
 /// Memory for tables: a large one comes in large pages where the system has them, since touching each of its small ones
 /// for the first time would take longer than the whole fit.

@@ -4,6 +4,8 @@
 
 #include <vector>
 
+#include "model/table4.h"
+
 namespace tavimor {
 namespace {
 

@@ -6,6 +6,7 @@
 
 #include "engine/Compute.h"
 #include "model/Dimension.h"
+#include "model/grid_indices.h"
 #include "model/value_lists.h"
 #include "report/listing.h"
 
@@ -55,10 +56,7 @@ inline Dimension problem(const std::vector<Axis>& axes) {
 /// Calls visit(i0, i1, i2, i3) for all indices from 0 to `last`, the first one fastest.
 template <class Visit>
 void forEachIndex(const PerVariable<Long>& last, Visit visit) {
-  for (Long i3 = 0; i3 <= last[3]; ++i3)
-    for (Long i2 = 0; i2 <= last[2]; ++i2)
-      for (Long i1 = 0; i1 <= last[1]; ++i1)
-        for (Long i0 = 0; i0 <= last[0]; ++i0) visit(i0, i1, i2, i3);
+  tavimor::forEachIndex(last, [&](const PerVariable<Long>& i) { visit(i[0], i[1], i[2], i[3]); });
 }
 
 /// Sets the function to f(x0, x1, x2, x3) at every grid point.

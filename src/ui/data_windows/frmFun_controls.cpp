@@ -9,7 +9,7 @@ namespace tavimor {
 
 namespace {
 
-// Kept word for word, "show" included.
+// Users know the tip by these words, "show" included.
 constexpr const char* kAdd = "Add the number of units show on the right";
 constexpr const char* kSubtract = "Subtract the number of units show on the right";
 

@@ -89,7 +89,7 @@ TEST_F(Start, EnterIsYes) {
   RestoreDecimalSeparator();
 }
 
-TEST_F(Start, TheQuestionIsACriticalMessageToTheLetter) {
+TEST_F(Start, TheQuestionIsACriticalMessage) {
   useComma();
   dialogs.expect([](QDialog& dialog) {
     auto& box = dynamic_cast<QMessageBox&>(dialog);

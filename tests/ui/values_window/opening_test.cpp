@@ -52,7 +52,7 @@ TEST_F(OpeningTheValues, TheEditorIsHiddenAndTheKeyboardIsInTheGridAtTheFirstVal
   EXPECT_EQ(grid().Col(), 1);
 }
 
-TEST_F(OpeningTheValues, CaptionsAndToolTipAreTheStatedOnes) {
+TEST_F(OpeningTheValues, CaptionsAndToolTipReadAsUsersKnowThem) {
   edit(0);
   EXPECT_EQ(values().cmdDelete->text(), QStringLiteral("Delete"));
   EXPECT_EQ(values().cmdDelete->toolTip(), QStringLiteral("Find maxima and minima"));

@@ -96,7 +96,7 @@ TEST_F(EvaluationsWindow, ShowsOneRowPerVariableAndThePointZeroAtFirst) {
   EXPECT_EQ(estimate(), "");
 }
 
-TEST_F(EvaluationsWindow, CaptionsAndToolTipsAreWordForWord) {
+TEST_F(EvaluationsWindow, CaptionsAndToolTipsReadAsUsersKnowThem) {
   fit({"x"});
   open();
   EXPECT_EQ(find<QGroupBox>(QStringLiteral("fraEval"))->title(), QStringLiteral("Evaluation Point"));

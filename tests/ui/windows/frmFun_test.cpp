@@ -34,7 +34,7 @@ TEST_F(FunctionWindow, ShowsTheControlsOfTheDeclaredVariablesOnly) {
   EXPECT_FALSE(find<QLabel>("lblComma(1)")->isVisible());
 }
 
-TEST_F(FunctionWindow, CaptionsAndToolTipsAreWordForWord) {
+TEST_F(FunctionWindow, CaptionsAndToolTipsReadAsUsersKnowThem) {
   open({3});
   const QString add = QStringLiteral("Add the number of units show on the right");
   const QString subtract = QStringLiteral("Subtract the number of units show on the right");

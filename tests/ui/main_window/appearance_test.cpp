@@ -10,14 +10,14 @@
 namespace tavimor {
 namespace {
 
-class Contract : public MainWindowTest {};
+class Appearance : public MainWindowTest {};
 
-TEST_F(Contract, TheWindowHasItsNameAndCaption) {
+TEST_F(Appearance, TheWindowHasItsNameAndCaption) {
   EXPECT_EQ(window->objectName(), "frmTavimor");
   EXPECT_EQ(window->windowTitle(), "Tavimor");
 }
 
-TEST_F(Contract, LabelsHaveTheirCaptions) {
+TEST_F(Appearance, LabelsHaveTheirCaptions) {
   const std::vector<std::pair<const char*, const char*>> captions = {
       {"lblOrder", "Enter # of independent variables:"},
       {"lblVarNam", "Enter the names of the independent variables, separated by commas:"},
@@ -30,7 +30,7 @@ TEST_F(Contract, LabelsHaveTheirCaptions) {
   for (const auto& [name, caption] : captions) EXPECT_EQ(label(name).text(), caption);
 }
 
-TEST_F(Contract, ButtonsHaveTheirCaptions) {
+TEST_F(Appearance, ButtonsHaveTheirCaptions) {
   const std::vector<std::pair<const char*, const char*>> captions = {
       {"cmdAddVars(0)", "Add values"},  {"cmdEditVars(0)", "Edit values"}, {"cmdPrevVar", "Previous"},
       {"cmdNextVar", "Next"},           {"cmdEditFun", "Edit function"},   {"cmdCompute", "Compute"},
@@ -39,7 +39,7 @@ TEST_F(Contract, ButtonsHaveTheirCaptions) {
   EXPECT_EQ(check("chkSpaced(0)").text(), "Equally spaced");
 }
 
-TEST_F(Contract, TheElementsOfAllBlocksHaveTheirNames) {
+TEST_F(Appearance, TheElementsOfAllBlocksHaveTheirNames) {
   declare("4", "a,b,c,d");
   for (int k = 0; k < 4; ++k) {
     for (const char* array : {"txtLL", "txtUL", "txtTerms", "txtPoints", "txtExpansion"})
@@ -51,13 +51,13 @@ TEST_F(Contract, TheElementsOfAllBlocksHaveTheirNames) {
   }
 }
 
-TEST_F(Contract, ToolTipsAreExact) {
+TEST_F(Appearance, ToolTipsAreExact) {
   EXPECT_EQ(box("txtExpansion(0)").toolTip(), "Enter \"*\" for center of interval");
   EXPECT_EQ(button("cmdCompute").toolTip(), "Compute coefficients");
   EXPECT_EQ(results().toolTip(), "Coefficients");
 }
 
-TEST_F(Contract, TheMenusHaveTheirNamesCaptionsAndKeys) {
+TEST_F(Appearance, TheMenusHaveTheirNamesCaptionsAndKeys) {
   const std::vector<std::tuple<const char*, const char*, const char*>> items = {
       {"mnuFile", "File", ""},         {"mnuOpen", "Open", "Ctrl+O"},
       {"mnuSave", "Save", "Ctrl+S"},   {"mnuSaveAs", "Save As", "Ctrl+Shift+S"},
@@ -71,14 +71,14 @@ TEST_F(Contract, TheMenusHaveTheirNamesCaptionsAndKeys) {
   EXPECT_TRUE(item("mnuFileBar2").isSeparator());
 }
 
-TEST_F(Contract, AltAndTheFirstLetterOpenTheMenu) {
+TEST_F(Appearance, AltAndTheFirstLetterOpenTheMenu) {
   press(Qt::Key_F, Qt::AltModifier);
   const QMenu* menu = item("mnuFile").menu();
   EXPECT_TRUE(menu->isVisible());
   press(Qt::Key_Escape);
 }
 
-TEST_F(Contract, FontsAreThoseOfTheControls) {
+TEST_F(Appearance, FontsAreThoseOfTheControls) {
   EXPECT_EQ(box("txtOrder").font().families().first(), "Verdana");
   EXPECT_EQ(box("txtVarNams").font().families().first(), "Verdana");
   EXPECT_EQ(label("lblLL").font().families().first(), "MS Sans Serif");
@@ -87,7 +87,7 @@ TEST_F(Contract, FontsAreThoseOfTheControls) {
   EXPECT_TRUE(QFontInfo(results().font()).fixedPitch());
 }
 
-TEST_F(Contract, AScreenReaderReadsWhatAFieldIsFor) {
+TEST_F(Appearance, AScreenReaderReadsWhatAFieldIsFor) {
   const std::vector<std::pair<const char*, const char*>> names = {{"txtLL(0)", "Lower limit"},
                                                                   {"txtUL(0)", "Upper limit"},
                                                                   {"txtTerms(0)", "Desired degree"},
@@ -98,7 +98,7 @@ TEST_F(Contract, AScreenReaderReadsWhatAFieldIsFor) {
     EXPECT_EQ(QAccessible::queryAccessibleInterface(&box(name))->text(QAccessible::Name), spoken);
 }
 
-TEST_F(Contract, TheListTakesTheRoom) {
+TEST_F(Appearance, TheListTakesTheRoom) {
   const int height = results().height(), frame = window->findChild<QWidget*>("fraSpecs")->height();
   window->resize(window->width(), window->height() + 200);
   QTest::qWait(10);
