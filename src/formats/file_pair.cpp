@@ -2,8 +2,11 @@
 
 #include <cerrno>
 #include <filesystem>
+#include <vector>
 
+#include "formats/work_names.h"
 #include "platform/files.h"
+#include "runtime/file_facts.h"
 #include "runtime/run_time_error.h"
 
 namespace tavimor {
@@ -12,54 +15,36 @@ namespace fs = std::filesystem;
 
 namespace {
 
-std::string newName(const std::string& target) { return target + ".tavimor-new"; }
-std::string oldName(const std::string& target) { return target + ".tavimor-old"; }
-std::string backName(const std::string& target) { return target + ".tavimor-back"; }
+bool isFile(const std::string& path) { return factsOf(path).kind == FileKind::Regular; }
 
-bool isFile(const std::string& path) {
-  std::error_code ignored;
-  return fs::is_regular_file(nativePath(path), ignored);
+void requireNoWorkName(const PairPaths& pair) {
+  for (const std::string& path : {pair.specification, pair.values})
+    if (isWorkName(path)) throw RunTimeError(ErrorNumber::PathFileAccess, path);
 }
-
-bool valuesAreOnTheirWayBack(const PairPaths& pair) { return isFile(backName(pair.values)); }
-
-bool newValuesAreInPlace(const PairPaths& pair) {
-  return isFile(newName(pair.specification)) && !isFile(newName(pair.values));
-}
-
-// The file that a link leads to, which need not exist.
-std::string resolved(const std::string& path) {
-  constexpr int mostLinks = 40;  // as many as Linux follows
-  fs::path target = nativePath(path);
-  std::error_code ignored;
-  for (int links = 0; fs::is_symlink(target, ignored); ++links) {
-    if (links == mostLinks) throw RunTimeError(ErrorNumber::PathFileAccess, path);
-    target = target.parent_path() / fs::read_symlink(target, ignored);
-  }
-  return utf8Path(target);
-}
-
-PairPaths resolved(const PairPaths& pair) { return {resolved(pair.specification), resolved(pair.values)}; }
 
 // Replacing a file asks only for permission on its folder: a file that may not be written is refused here.
 void requireReplaceable(const std::string& path) {
-  std::error_code ignored;
-  if (!fs::exists(nativePath(path), ignored)) return;
-  if (!isFile(path)) throw RunTimeError(ErrorNumber::PathFileAccess, path);
-  if (!openFile(path, "r+b")) throw fileError(errno, path);
+  const FileKind kind = factsOf(path).kind;
+  if (kind == FileKind::Missing) return;
+  if (kind != FileKind::Regular) throw RunTimeError(ErrorNumber::PathFileAccess, path);
+  if (!mayBeWritten(path)) throw fileError(errno, path);
 }
 
 void requireTwoFiles(const PairPaths& pair) {
-  std::error_code ignored;
-  if (pair.specification == pair.values ||
-      fs::equivalent(nativePath(pair.specification), nativePath(pair.values), ignored))
+  if (pair.specification == pair.values || factsOf(pair.specification).isSameFileAs(factsOf(pair.values)))
     throw RunTimeError(ErrorNumber::FileAlreadyOpen, pair.values);
 }
 
-void copyPermissions(const std::string& from, const std::string& to) {
-  std::error_code ignored;
-  const fs::file_status status = fs::status(nativePath(from), ignored);
-  if (fs::exists(status)) fs::permissions(nativePath(to), status.permissions(), ignored);
+// The files to replace, where that can be.
+PairPaths replaceable(const std::string& path) {
+  const PairPaths named = pairPaths(path);
+  const PairPaths target = resolved(named);
+  requireNoWorkName(named);
+  requireNoWorkName(target);
+  requireReplaceable(target.specification);
+  requireReplaceable(target.values);
+  requireTwoFiles(target);
+  return target;
 }
 
 std::string folderOf(const std::string& path) {
@@ -67,30 +52,29 @@ std::string folderOf(const std::string& path) {
   return parent.empty() ? "." : parent;
 }
 
-}  // namespace
-
-PairPaths pairPaths(const std::string& path) { return {path, path + ".dat"}; }
-
-PairPaths readablePair(const std::string& path) {
-  PairPaths pair = pairPaths(path);
-  const PairPaths target = resolved(pair);
-  if (valuesAreOnTheirWayBack(target))
-    pair.values = backName(target.values);
-  else if (newValuesAreInPlace(target))
-    pair.specification = newName(target.specification);
-  return pair;
+// What saves of this target that were killed have left under names of their own.
+std::vector<std::string> leftOver(const std::string& target) {
+  const fs::path name = nativePath(target).filename();
+  const fs::path folder = nativePath(folderOf(target));
+  std::vector<std::string> found;
+  std::error_code error;
+  for (fs::directory_iterator entry(folder, error), end; !error && entry != end; entry.increment(error))
+    if (isOwnName(utf8Path(entry->path().filename()), utf8Path(name))) found.push_back(utf8Path(entry->path()));
+  // A folder that may be written but not read shows nothing.
+  if (error && error != std::errc::permission_denied) throw fileError(error.default_error_condition().value(), target);
+  return found;
 }
 
-FilePair::FilePair(const std::string& path, FileSteps& steps) : steps_(steps) {
-  const PairPaths pair = pairPaths(path);
-  requireReplaceable(pair.specification);
-  requireReplaceable(pair.values);
-  target_ = resolved(pair);
-  requireTwoFiles(target_);
+}  // namespace
+
+FilePair::FilePair(const std::string& path, FileSteps& steps, Patience patience)
+    : steps_(steps),
+      target_(replaceable(path)),
+      valuesLock_(target_.values, patience),
+      specificationLock_(target_.specification, patience) {
   finishInterruptedSave();
   try {
     create(values_, target_.values);
-    flushFolders();  // a new specification must never be on the disk alone while it is written
     create(specification_, target_.specification);
   } catch (...) {
     discard();
@@ -103,70 +87,98 @@ FilePair::~FilePair() {
 }
 
 void FilePair::commit() {
-  values_->finish();
-  specification_->finish();
-  flushFolders();
-  const std::string oldValues = oldName(target_.values);
+  finish(*values_, target_.values);
+  finish(*specification_, target_.specification);
+  nameNewFiles();
   hadOldValues_ = isFile(target_.values);
-  if (hadOldValues_ && !steps_.keepAs(target_.values, oldValues)) throw fileError(errno, target_.values);
+  if (hadOldValues_ && !steps_.keepAs(target_.values, oldName(target_.values))) throw fileError(errno, target_.values);
   try {
-    move(newName(target_.values), target_.values);
-    flushFolders();
-    move(newName(target_.specification), target_.specification);
+    putIntoPlace();
   } catch (...) {
     putBackOldValues();
     throw;
   }
   settled_ = true;
   // The new pair is in place: nothing that is refused from here on undoes it.
-  removed(oldValues);
+  removed(oldName(target_.values));
   steps_.flushFolder(folderOf(target_.specification));
 }
 
-// Leaves none of the files that a killed save had beside the targets.
+// Leaves none of the files that a killed save had beside the targets. What comes first must be on the disk first: each
+// of these steps decides which pair is the one to read.
 void FilePair::finishInterruptedSave() {
-  if (valuesAreOnTheirWayBack(target_)) {
-    remove(newName(target_.specification));
-    move(backName(target_.values), target_.values);
-  } else if (newValuesAreInPlace(target_)) {
-    move(newName(target_.specification), target_.specification);
-  }
-  remove(newName(target_.specification));
-  remove(newName(target_.values));
-  remove(oldName(target_.values));
+  const std::string newSpecification = newName(target_.specification), newValues = newName(target_.values);
+  const std::string valuesOnTheirWay = backName(target_.values);
+  const bool newValuesAreInPlace = isFile(newSpecification) && !isFile(newValues) && isFile(target_.values);
+  if (newValuesAreInPlace && !isFile(valuesOnTheirWay)) move(newSpecification, target_.specification);
+  remove(newSpecification);
+  flushFolders();
+  if (isFile(valuesOnTheirWay)) move(valuesOnTheirWay, target_.values);
+  for (const std::string& path : {valuesOnTheirWay, newValues, oldName(target_.values)}) remove(path);
+  for (const std::string& target : {target_.values, target_.specification})
+    for (const std::string& path : leftOver(target)) removed(path);
 }
 
 void FilePair::create(std::optional<OutputFile>& file, const std::string& target) {
-  file.emplace(newName(target), steps_, target);
-  copyPermissions(target, file->path());
+  const bool isFirst = factsOf(target).kind == FileKind::Missing;
+  file.emplace(ownName(target), steps_, target, isFirst ? Access::Usual : Access::Private);
+}
+
+void FilePair::finish(OutputFile& file, const std::string& target) {
+  file.takeAttributesOf(target);
+  file.finish();
+}
+
+// A new specification must never be on the disk alone.
+void FilePair::nameNewFiles() {
+  move(values_->path(), newName(target_.values));
+  flushFolders();
+  move(specification_->path(), newName(target_.specification));
+  flushFolders();
+}
+
+void FilePair::putIntoPlace() {
+  move(newName(target_.values), target_.values);
+  flushFolders();
+  move(newName(target_.specification), target_.specification);
 }
 
 // Each step leaves one whole pair to read, so that the first refusal among them can end it.
 void FilePair::putBackOldValues() {
-  if (isFile(newName(target_.values))) return;  // the new values have not moved: there is only something to discard
+  FileFacts values, specification;
+  const bool haveNotMoved =
+      queryFile(newName(target_.values), LastLink::Keep, values) && values.kind == FileKind::Regular;
+  if (haveNotMoved) return;  // there is only something to discard
   settled_ = true;
+  // The specification can have moved although that was called refused: then the new pair is complete.
+  if (!queryFile(newName(target_.specification), LastLink::Keep, specification) ||
+      specification.kind != FileKind::Regular)
+    return;
   if (!hadOldValues_) {
-    if (removed(target_.values)) removed(newName(target_.specification));
+    if (removed(target_.values) && foldersAreFlushed()) removed(newName(target_.specification));
     return;
   }
-  if (!steps_.replace(oldName(target_.values), backName(target_.values))) return;
-  if (!removed(newName(target_.specification))) return;
+  if (!steps_.replace(oldName(target_.values), backName(target_.values)) || !foldersAreFlushed()) return;
+  if (!removed(newName(target_.specification)) || !foldersAreFlushed()) return;
   steps_.replace(backName(target_.values), target_.values);
 }
 
 // In this order: a new specification that stands alone is the one to read.
 void FilePair::discard() {
-  values_.reset();
-  specification_.reset();
-  if (!removed(newName(target_.specification))) return;
-  steps_.flushFolder(folderOf(target_.specification));
+  for (std::optional<OutputFile>* file : {&values_, &specification_}) {
+    const std::string path = *file ? (*file)->path() : std::string();
+    file->reset();  // some systems remove no file that is open
+    if (!path.empty()) removed(path);
+  }
+  if (!removed(newName(target_.specification)) || !foldersAreFlushed()) return;
   removed(newName(target_.values));
   removed(oldName(target_.values));
 }
 
 bool FilePair::removed(const std::string& path) {
-  std::error_code ignored;
-  return !fs::exists(fs::symlink_status(nativePath(path), ignored)) || steps_.remove(path);
+  FileFacts facts;
+  const bool isMissing = queryFile(path, LastLink::Keep, facts) && facts.kind == FileKind::Missing;
+  return isMissing || steps_.remove(path);
 }
 
 void FilePair::remove(const std::string& path) {
@@ -177,11 +189,14 @@ void FilePair::move(const std::string& path, const std::string& target) {
   if (!steps_.replace(path, target)) throw fileError(errno, target);
 }
 
-void FilePair::flushFolders() {
+bool FilePair::foldersAreFlushed() {
   const std::string folder = folderOf(target_.values);
   const std::string secondFolder = folderOf(target_.specification);
-  if (!steps_.flushFolder(folder)) throw fileError(errno, target_.values);
-  if (secondFolder != folder && !steps_.flushFolder(secondFolder)) throw fileError(errno, target_.specification);
+  return steps_.flushFolder(folder) && (secondFolder == folder || steps_.flushFolder(secondFolder));
+}
+
+void FilePair::flushFolders() {
+  if (!foldersAreFlushed()) throw fileError(errno, target_.values);
 }
 
 }  // namespace tavimor

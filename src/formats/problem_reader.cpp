@@ -7,7 +7,7 @@
 #include <span>
 #include <utility>
 
-#include "formats/file_pair.h"
+#include "formats/readable_pair.h"
 #include "model/spec_fields.h"
 #include "model/value_lists.h"
 #include "platform/memory.h"
@@ -66,8 +66,7 @@ void readCoefficients(InputFile& file, const PerVariable<Long>& Degree, Table4& 
   readInOrder(file, "a coefficient", Coef.data(), Coef.size());  // first index fastest, as in memory
 }
 
-void readSpecification(const std::string& path, StoredProblem& stored) {
-  InputFile file(path);
+void readSpecification(InputFile file, StoredProblem& stored) {
   Problem& problem = stored.problem;
   problem.LastVar = readLastVar(file);
   for (Long v = 0; v <= problem.LastVar; ++v) stored.centres[v] = readRecord(file, problem, v);
@@ -159,8 +158,7 @@ void takeLastVar(Long lastVar, StoredProblem& stored) {
   if (stored.fit.FitDone) stored.fit.Coef.resizeKeeping(stored.problem.Degree);
 }
 
-void readValues(const std::string& path, StoredProblem& stored) {
-  InputFile file(path);
+void readValues(InputFile file, StoredProblem& stored) {
   takeLastVar(readLastVar(file), stored);
   readCounts(file, stored.problem);
   readValueLists(file, stored.problem);
@@ -173,9 +171,9 @@ void readValues(const std::string& path, StoredProblem& stored) {
 
 StoredProblem readProblem(const std::string& path) {
   StoredProblem stored;
-  const PairPaths pair = readablePair(path);
-  readSpecification(pair.specification, stored);
-  readValues(pair.values, stored);
+  OpenPair pair = openPair(path);
+  readSpecification({std::move(pair.specification), pair.paths.specification}, stored);
+  readValues({std::move(pair.values), pair.paths.values}, stored);
   return stored;
 }
 

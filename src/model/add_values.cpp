@@ -7,10 +7,13 @@
 #include "model/grid_indices.h"
 #include "model/value_lists.h"
 #include "platform/files.h"
+#include "platform/held_signals.h"
 #include "runtime/bad_file.h"
+#include "runtime/file_facts.h"
 #include "runtime/input_file.h"
 #include "runtime/output_file.h"
 #include "runtime/run_time_error.h"
+#include "runtime/save_lock.h"
 
 namespace tavimor {
 
@@ -31,12 +34,36 @@ void readTable(Table4& table, const PerVariable<Long>& lastRead, const std::stri
   }
 }
 
+std::string asideName(const std::string& path, int number) { return path + '.' + std::to_string(number); }
+std::string valuesName(const std::string& path) { return path + ".dat"; }
+
+bool isFree(const std::string& path) { return factsOf(path).kind == FileKind::Missing; }
+
+void rename(const std::string& path, const std::string& target, FileSteps& steps) {
+  if (!steps.replace(path, target)) throw fileError(errno, path);
+}
+
+// A file that the user has under the work file's name goes to the first free of "FUNCTION.1", "FUNCTION.2" ... It can
+// be a problem, for a plain save goes there after values have been added: then its values go with it.
+void putAside(const std::string& path, FileSteps& steps) {
+  if (isFree(path)) return;
+  if (factsOf(path).kind != FileKind::Regular) throw RunTimeError(ErrorNumber::PathFileAccess, path);
+  int number = 1;
+  while (!isFree(asideName(path, number)) || !isFree(valuesName(asideName(path, number)))) ++number;
+  const bool hasValues = !isFree(valuesName(path));
+  rename(path, asideName(path, number), steps);
+  if (hasValues) rename(valuesName(path), valuesName(asideName(path, number)), steps);
+}
+
 Table4 relaidTable(const Dimension& model, const PerVariable<Long>& newLast, FileSteps& steps) {
   Table4 table;
   table.redim(newLast);
   PerVariable<Long> lastRead{};
   for (Long d = 0; d < kMaxVariables; ++d) lastRead[d] = addLongs(newLast[d], -model.AddCount[d]);
   const std::string path = workFilePath(model);
+  const HeldSignals heldSignals;
+  const SaveLock lock(path, usualPatience());
+  putAside(path, steps);
   std::optional<OutputFile> file(std::in_place, path, steps);
   try {
     writeTable(model.F, *file);

@@ -17,9 +17,11 @@ std::string workFilePath(const Dimension& model);
 /// was added to that very axis, not only to v. Kept on purpose: after additions to two variables the second one reads
 /// back with the first one's extent shortened (AddValues.ASecondVariableReadsBackWithTheFirstOneShortened).
 ///
-/// Afterwards FileName names the work file, although that is deleted: a plain save goes there.
-/// Errors: a RunTimeError where the work file cannot be written or read, SubscriptOutOfRange for a negative count,
-/// Overflow, OutOfMemory. On an error the model is as it was and no work file is left.
+/// Afterwards FileName names the work file, although that is deleted: a plain save goes there. A file of that name that
+/// is there before is the user's, and is kept as "FUNCTION.1", or the next number that is free.
+/// Errors: a RunTimeError where the work file cannot be written or read, PathFileAccess where its name is a link or no
+/// regular file, SubscriptOutOfRange for a negative count, Overflow, OutOfMemory. On an error the model is as it was
+/// and no work file is left.
 void addValues(Dimension& model, Long v, FileSteps& steps = systemFileSteps());
 
 }  // namespace tavimor

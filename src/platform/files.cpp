@@ -1,7 +1,9 @@
 #include "platform/files.h"
 
 #ifdef _WIN32
+#include <fcntl.h>
 #include <io.h>
+#include <sys/stat.h>
 #else
 #include <fcntl.h>
 #include <unistd.h>
@@ -13,9 +15,9 @@ namespace tavimor {
 
 namespace {
 
-std::FILE* openUnbuffered(std::FILE* file) {
+FileHandle unbuffered(std::FILE* file) {
   if (file != nullptr) std::setvbuf(file, nullptr, _IONBF, 0);
-  return file;
+  return FileHandle(file);
 }
 
 }  // namespace
@@ -29,10 +31,22 @@ std::string utf8Path(const std::filesystem::path& path) {
   return std::string(text.begin(), text.end());
 }
 
-FileHandle openFile(const std::string& path, const char* mode) {
-  const std::wstring wideMode(mode, mode + std::string(mode).size());
-  return FileHandle(openUnbuffered(_wfopen(nativePath(path).c_str(), wideMode.c_str())));
+namespace {
+
+FileHandle opened(const std::string& path, int flags, int access, const char* mode) {
+  const int descriptor = _wopen(nativePath(path).c_str(), flags | _O_BINARY | _O_NOINHERIT, access);
+  return descriptor < 0 ? nullptr : unbuffered(_fdopen(descriptor, mode));
 }
+
+}  // namespace
+
+FileHandle createFile(const std::string& path, Access) {
+  return opened(path, _O_WRONLY | _O_CREAT | _O_EXCL, _S_IREAD | _S_IWRITE, "wb");
+}
+
+FileHandle openForReading(const std::string& path) { return opened(path, _O_RDONLY, 0, "rb"); }
+
+bool mayBeWritten(const std::string& path) { return opened(path, _O_WRONLY, 0, "wb") != nullptr; }
 
 bool flushToDisk(std::FILE* file) { return std::fflush(file) == 0 && _commit(_fileno(file)) == 0; }
 
@@ -44,15 +58,40 @@ std::filesystem::path nativePath(const std::string& path) { return path; }
 
 std::string utf8Path(const std::filesystem::path& path) { return path.string(); }
 
-FileHandle openFile(const std::string& path, const char* mode) {
-  return FileHandle(openUnbuffered(std::fopen(path.c_str(), mode)));
+namespace {
+
+FileHandle opened(const std::string& path, int flags, mode_t access, const char* mode) {
+  const int descriptor = open(path.c_str(), flags | O_CLOEXEC, access);
+  if (descriptor < 0) return nullptr;
+  FileHandle file = unbuffered(fdopen(descriptor, mode));
+  if (file) return file;
+  const int refusal = errno;
+  close(descriptor);
+  if ((flags & O_CREAT) != 0) unlink(path.c_str());
+  errno = refusal;
+  return nullptr;
+}
+
+}  // namespace
+
+FileHandle createFile(const std::string& path, Access access) {
+  return opened(path, O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW, access == Access::Private ? 0600 : 0666, "wb");
+}
+
+FileHandle openForReading(const std::string& path) { return opened(path, O_RDONLY | O_NONBLOCK, 0, "rb"); }
+
+bool mayBeWritten(const std::string& path) {
+  const int descriptor = open(path.c_str(), O_WRONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
+  if (descriptor < 0) return false;
+  close(descriptor);
+  return true;
 }
 
 bool flushToDisk(std::FILE* file) { return std::fflush(file) == 0 && fsync(fileno(file)) == 0; }
 
 bool flushFolderToDisk(const std::string& folder) {
   const int descriptor = open(folder.c_str(), O_RDONLY | O_CLOEXEC);
-  if (descriptor < 0) return true;  // a folder that may be written but not read: nothing can be asked for
+  if (descriptor < 0) return errno == EACCES;  // a folder that may be written but not read: nothing can be asked for
   const bool flushed = fsync(descriptor) == 0 || errno == EINVAL;
   close(descriptor);
   return flushed;

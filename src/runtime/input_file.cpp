@@ -4,8 +4,9 @@
 #include <cerrno>
 #include <cmath>
 #include <cstring>
-#include <filesystem>
+#include <utility>
 
+#include "platform/file_query.h"
 #include "runtime/bad_file.h"
 #include "runtime/number_text.h"
 #include "runtime/numeral.h"
@@ -24,14 +25,17 @@ constexpr std::size_t kExcerptCharacters = 40;
 constexpr const char* kTooLong = "a field that is too long";
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
-std::uint64_t regularFileSize(const std::string& path) {
-  const std::filesystem::path file = nativePath(path);
-  std::error_code error;
-  const std::uint64_t size = std::filesystem::file_size(file, error);
-  if (!error) return size;
-  std::error_code ignored;
-  const bool isSomethingElse = std::filesystem::exists(file, ignored);
-  throw fileError(isSomethingElse ? EISDIR : error.default_error_condition().value(), path);
+FileHandle opened(const std::string& path) {
+  FileHandle file = openForReading(path);
+  if (!file) throw fileError(errno, path);
+  return file;
+}
+
+std::uint64_t regularFileSize(std::FILE* file, const std::string& path) {
+  FileFacts facts;
+  if (!queryFile(file, facts)) throw fileError(errno, path);
+  if (facts.kind != FileKind::Regular) throw fileError(EISDIR, path);
+  return facts.size;
 }
 
 bool isBlank(char c) { return c == ' ' || c == '\t'; }
@@ -44,14 +48,15 @@ bool equalIgnoringCase(std::string_view a, std::string_view upperCase) {
 
 }  // namespace
 
-InputFile::InputFile(const std::string& path)
+InputFile::InputFile(const std::string& path) : InputFile(opened(path), path) {}
+
+InputFile::InputFile(FileHandle file, const std::string& path)
     : path_(path),
-      unread_(regularFileSize(path)),
+      file_(std::move(file)),
+      unread_(regularFileSize(file_.get(), path)),
       window_(static_cast<std::size_t>(std::min<std::uint64_t>(kWindowBytes, unread_ + 1))),
       at_(window_.data()),
       last_(window_.data()) {
-  file_ = openFile(path, "rb");
-  if (!file_) throw fileError(errno, path);
   fill();
   if (std::string_view(at_, static_cast<std::size_t>(last_ - at_)).starts_with(kByteOrderMark))
     at_ += kByteOrderMark.size();

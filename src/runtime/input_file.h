@@ -23,6 +23,9 @@ class InputFile {
  public:
   explicit InputFile(const std::string& path);
 
+  /// Reads a file that is open already.
+  InputFile(FileHandle file, const std::string& path);
+
   /// A text without its quotes. The closing quote is one that a comma or the line's end follows, blanks between
   /// allowed, so that a text may hold quotes itself.
   std::string readText(const char* item);

@@ -11,9 +11,9 @@ namespace {
 constexpr std::size_t kPendingBytes = std::size_t{64} * 1024;
 }
 
-OutputFile::OutputFile(const std::string& path, FileSteps& steps, const std::string& target)
+OutputFile::OutputFile(const std::string& path, FileSteps& steps, const std::string& target, Access access)
     : path_(path), target_(target.empty() ? path : target), steps_(steps) {
-  file_ = steps_.create(path_);
+  file_ = steps_.create(path_, access);
   if (!file_) throw fileError(errno, target_);
 }
 
@@ -25,6 +25,10 @@ void OutputFile::print(double value) {
 void OutputFile::print(Long value) {
   pending_ += printedNumber(value);
   endLine();
+}
+
+void OutputFile::takeAttributesOf(const std::string& path) {
+  if (!steps_.takeAttributes(file_.get(), path)) throw fileError(errno, target_);
 }
 
 void OutputFile::finish() {

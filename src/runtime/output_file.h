@@ -9,7 +9,7 @@
 
 namespace tavimor {
 
-/// Writes a text file of Print and Write lines, each ended by CR LF.
+/// Writes a new text file of Print and Write lines, each ended by CR LF. Nothing may stand at its path.
 ///   Print line: one number in the form of printedNumber: " 3 ", " .5 ", "-2.25 ".
 ///   Write line: a record, its items separated by single commas: texts in quotes, numbers as writtenNumber has them,
 ///   #TRUE# or #FALSE#.
@@ -17,7 +17,8 @@ namespace tavimor {
 class OutputFile {
  public:
   /// `target` is the file that the user knows, for errors, where it is not `path` itself.
-  OutputFile(const std::string& path, FileSteps& steps, const std::string& target = {});
+  OutputFile(const std::string& path, FileSteps& steps, const std::string& target = {},
+             Access access = Access::Private);
 
   void print(double value);
   void print(Long value);
@@ -27,6 +28,9 @@ class OutputFile {
     (appendItem(items), ...);
     endRecord();
   }
+
+  /// Takes what belongs to another file beside its content: its permissions, for instance.
+  void takeAttributesOf(const std::string& path);
 
   /// Hands everything to the system and has it put on the disk; nothing may be written afterwards.
   void finish();

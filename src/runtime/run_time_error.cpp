@@ -40,7 +40,10 @@ const char* description(ErrorNumber number) {
   return "Application-defined or object-defined error";
 }
 
-RunTimeError::RunTimeError(ErrorNumber number, std::string path) : Failure(std::move(path)), number_(number) {}
+RunTimeError::RunTimeError(ErrorNumber number, std::string path, const std::string& detail)
+    : Failure(std::move(path)), number_(number), text_(description(number)) {
+  if (!detail.empty()) text_ += " (" + detail + ')';
+}
 
 std::string RunTimeError::heading() const {
   return "Run-time error '" + std::to_string(static_cast<int>(number_)) + "'";

@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <vector>
 
+#include "formats/readable_pair.h"
 #include "support/expect_error.h"
 #include "support/files.h"
 #include "support/temporary_folder.h"

@@ -1,6 +1,7 @@
 #include "model/add_values.h"
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <filesystem>
 
@@ -125,6 +126,27 @@ TEST_F(AddValues, FileNameIsTheWorkFileAfterwardsAlthoughThatIsGone) {
   EXPECT_EQ(test::namesIn(folder.path()), std::vector<std::string>{});
 }
 
+TEST_F(AddValues, AFileOfTheUsersUnderTheWorkFilesNameIsPutAside) {
+  Dimension model = grid({3});
+  for (const char* content : {"mine", "mine too"}) {
+    test::writeBytes(folder / "FUNCTION", content);
+    add(model, 0, 1);
+  }
+  EXPECT_EQ(test::namesIn(folder.path()), (std::vector<std::string>{"FUNCTION.1", "FUNCTION.2"}));
+  EXPECT_EQ(test::readBytes(folder / "FUNCTION.1"), "mine");
+  EXPECT_EQ(test::readBytes(folder / "FUNCTION.2"), "mine too");
+}
+
+TEST_F(AddValues, AProblemThatWasSavedUnderTheWorkFilesNameIsPutAsideWithItsValues) {
+  Dimension model = grid({3});
+  test::writeBytes(folder / "FUNCTION.1.dat", "another's values");
+  test::writeBytes(folder / "FUNCTION", "specification");
+  test::writeBytes(folder / "FUNCTION.dat", "values");
+  add(model, 0, 1);
+  EXPECT_EQ(test::namesIn(folder.path()), (std::vector<std::string>{"FUNCTION.1.dat", "FUNCTION.2", "FUNCTION.2.dat"}));
+  EXPECT_EQ(test::readBytes(folder / "FUNCTION.2") + test::readBytes(folder / "FUNCTION.2.dat"), "specificationvalues");
+}
+
 TEST_F(AddValues, NoneMoreChangeNothing) {
   Dimension model = grid({3, 2});
   const Dimension before = model;
@@ -176,6 +198,22 @@ TEST_F(RefusedAddValues, AWorkFileThatCannotBeWrittenIsAnError) {
   expectUnchanged(model, ErrorNumber::PathFileAccess, [&] { add(model, 0, 1); });
   EXPECT_TRUE(std::filesystem::is_directory(folder / "FUNCTION"));
 }
+
+#ifndef _WIN32
+
+TEST_F(RefusedAddValues, ALinkOrAPipeInTheWorkFilesPlaceIsAnError) {
+  Dimension model = grid({3});
+  test::writeBytes(folder / "precious", "mine");
+  std::filesystem::create_symlink("precious", folder / "FUNCTION");
+  expectUnchanged(model, ErrorNumber::PathFileAccess, [&] { add(model, 0, 1); });
+  std::filesystem::remove(folder / "FUNCTION");
+  ASSERT_EQ(mkfifo((folder / "FUNCTION").c_str(), 0600), 0);
+  expectUnchanged(model, ErrorNumber::PathFileAccess, [&] { add(model, 0, 1); });
+  EXPECT_EQ(test::readBytes(folder / "precious"), "mine");
+  EXPECT_EQ(test::namesIn(folder.path()), (std::vector<std::string>{"FUNCTION", "precious"}));
+}
+
+#endif
 
 TEST_F(RefusedAddValues, AnyRefusedStepLeavesTheModelAsItWas) {
   Dimension model = grid({3});

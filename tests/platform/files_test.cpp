@@ -20,7 +20,7 @@ TEST_F(Files, APathIsTheSameAfterTheSystemHasHadIt) {
 
 TEST_F(Files, AFileThatIsOpenedHasTheNameThatTheSystemKnows) {
   const std::string path = folder / kName;
-  ASSERT_NE(openFile(path, "wb"), nullptr);
+  ASSERT_NE(createFile(path, Access::Private), nullptr);
   EXPECT_TRUE(std::filesystem::is_regular_file(nativePath(path)));
   for (const auto& entry : std::filesystem::directory_iterator(nativePath(folder.path())))
     EXPECT_EQ(utf8Path(entry.path().filename()), kName);

@@ -60,9 +60,12 @@ TEST_F(OutputFileBytes, ManyLinesComeWholeAndInOrder) {
   EXPECT_TRUE(got == wanted);
 }
 
-TEST_F(OutputFileBytes, AnEarlierFileIsReplaced) {
-  test::writeBytes(folder / "file", "something that is longer");
-  EXPECT_EQ(written([](OutputFile& file) { file.print(Long{1}); }), " 1 \r\n");
+TEST_F(OutputFileBytes, WhatStandsThereAlreadyIsNotWrittenTo) {
+  test::writeBytes(folder / "file", "mine");
+  std::filesystem::create_symlink("file", folder / "link");
+  for (const char* name : {"file", "link"})
+    expectError(ErrorNumber::PathFileAccess, [&] { OutputFile(folder / name, systemFileSteps()); });
+  EXPECT_EQ(test::readBytes(folder / "file"), "mine");
 }
 
 TEST_F(OutputFileBytes, WhatCannotBeCreatedNamesTheFileThatTheUserKnows) {
@@ -78,7 +81,10 @@ TEST_F(OutputFileBytes, WhatCannotBeCreatedNamesTheFileThatTheUserKnows) {
 
 #ifdef __linux__
 TEST_F(OutputFileBytes, AFullDiskIsReported) {
-  OutputFile file("/dev/full", systemFileSteps());
+  struct FullDisk : FileSteps {
+    FileHandle create(const std::string&, Access) override { return FileHandle(std::fopen("/dev/full", "wb")); }
+  } steps;
+  OutputFile file(folder / "file", steps);
   file.print(Long{1});
   expectError(ErrorNumber::DiskFull, [&] { file.finish(); });
 }

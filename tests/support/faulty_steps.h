@@ -25,13 +25,18 @@ class FaultySteps : public FileSteps {
 
   int count() const { return count_; }
 
-  FileHandle create(const std::string& path) override { return passes() ? FileSteps::create(path) : nullptr; }
+  FileHandle create(const std::string& path, Access access) override {
+    return passes() ? FileSteps::create(path, access) : nullptr;
+  }
   bool write(std::FILE* file, std::string_view bytes) override {
     if (comes() != Fault::None) FileSteps::write(file, bytes.substr(0, bytes.size() / 2));
     return passes() && FileSteps::write(file, bytes);
   }
   bool flush(std::FILE*) override { return passes(); }
   bool close(FileHandle file) override { return passes() && FileSteps::close(std::move(file)); }
+  bool takeAttributes(std::FILE* file, const std::string& path) override {
+    return passes() && FileSteps::takeAttributes(file, path);
+  }
   bool flushFolder(const std::string&) override { return passes(); }
   bool keepAs(const std::string& path, const std::string& secondName) override {
     return passes() && FileSteps::keepAs(path, secondName);
