@@ -4,6 +4,7 @@
 #include <array>
 #include <atomic>
 #include <csignal>
+#include <mutex>
 #endif
 
 namespace tavimor {
@@ -25,6 +26,7 @@ constexpr std::array<int, 3> kHeld = {SIGINT, SIGTERM, SIGHUP};
 std::atomic<int> request = 0;  // the signal that waits
 static_assert(std::atomic<int>::is_always_lock_free);
 
+std::mutex holdersMutex;
 int holders = 0;
 std::array<bool, kHeld.size()> isHeld{};
 
@@ -47,6 +49,7 @@ void setHandler(int signal, void (*handler)(int)) {
 void reportFileSizeLimitAsError() { setHandler(SIGXFSZ, SIG_IGN); }
 
 HeldSignals::HeldSignals() {
+  const std::lock_guard guard(holdersMutex);
   if (holders++ > 0) return;
   for (std::size_t n = 0; n < kHeld.size(); ++n) {
     isHeld[n] = wouldKill(kHeld[n]);
@@ -55,6 +58,7 @@ HeldSignals::HeldSignals() {
 }
 
 HeldSignals::~HeldSignals() {
+  const std::lock_guard guard(holdersMutex);
   if (--holders > 0) return;
   for (std::size_t n = 0; n < kHeld.size(); ++n)
     if (isHeld[n]) setHandler(kHeld[n], SIG_DFL);

@@ -8,7 +8,7 @@ void reportFileSizeLimitAsError();
 
 /// Requests to end that would kill the process (SIGINT, SIGTERM, SIGHUP) and come while an object of this class lives:
 /// the process ends when the last such object goes, so that work files can be tidied away first. A signal that the
-/// program takes itself or ignores is left alone. For one thread.
+/// program takes itself or ignores is left alone.
 class HeldSignals {
  public:
   HeldSignals();

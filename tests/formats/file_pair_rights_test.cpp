@@ -61,6 +61,39 @@ TEST_F(FilePairRights, AFolderThatMayNotBeWrittenTakesNoSave) {
   expectUntouched();
 }
 
+// The two files may be one: nobody can tell.
+TEST_F(FilePairRights, AFileThatTheSystemDoesNotTellOfIsNotReplaced) {
+  allow(folder.path(), fs::perms::all);
+  allow(folder / "p", fs::perms::all);
+  fs::create_directory(folder / "closed");
+  test::writeBytes(folder / "closed/values", "old");
+  fs::remove(folder / "p.dat");
+  fs::create_symlink("closed/values", folder / "p.dat");
+  allow(folder / "closed", fs::perms::none);
+  EXPECT_EQ(errorOfSave(), kPermissionDenied);
+  allow(folder / "closed", fs::perms::owner_all);
+  EXPECT_EQ(test::readBytes(folder / "p") + test::readBytes(folder / "closed/values"), "oldold");
+}
+
+TEST_F(FilePairRights, WorkFilesAreForTheirOwnersEyes) {
+  allow(folder / "p", fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read);
+  {
+    FilePair pair(folder / "p");
+    for (const OutputFile* file : {&pair.specification(), &pair.values()})
+      EXPECT_EQ(fs::status(file->path()).permissions(), fs::perms::owner_read | fs::perms::owner_write);
+    pair.commit();
+  }
+  EXPECT_EQ(fs::status(folder / "p").permissions(),
+            fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read);
+}
+
+TEST_F(FilePairRights, ANewProblemHasThePermissionsOfAnyNewFile) {
+  test::writeBytes(folder / "any", "new");
+  FilePair(folder / "q").commit();
+  EXPECT_EQ(fs::status(folder / "q").permissions(), fs::status(folder / "any").permissions());
+  EXPECT_EQ(fs::status(folder / "q.dat").permissions(), fs::status(folder / "any").permissions());
+}
+
 TEST_F(FilePairRights, AnOrdinaryUserSavesWhereBothMayBeWritten) {
   allow(folder.path(), fs::perms::all);
   allow(folder / "p", fs::perms::all);

@@ -16,7 +16,9 @@ bool hasRequest(int descriptor) {
 // The process as it was, whatever a test has it catch.
 class EndRequest : public testing::TestWithParam<int> {
  protected:
-  ~EndRequest() override { std::signal(GetParam(), SIG_DFL); }
+  ~EndRequest() override {
+    for (const int signal : {SIGTERM, SIGINT}) std::signal(signal, SIG_DFL);
+  }
 };
 
 TEST_P(EndRequest, BecomesReadableInsteadOfKilling) {

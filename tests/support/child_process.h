@@ -13,8 +13,8 @@ namespace tavimor::test {
 
 constexpr int kChildFailed = 99;  // the action ended in an exception
 
-/// Runs the action in a child process and returns the child's exit code: 0 unless the action calls _exit itself.
-inline int exitCodeOfChild(const std::function<void()>& action) {
+/// Runs the action in a child process and returns how that ended, as waitpid has it.
+inline int statusOfChild(const std::function<void()>& action) {
   const pid_t child = fork();
   if (child == 0) {
     try {
@@ -25,8 +25,21 @@ inline int exitCodeOfChild(const std::function<void()>& action) {
     }
   }
   int status = 0;
-  if (child < 0 || waitpid(child, &status, 0) != child || !WIFEXITED(status)) std::abort();
+  if (child < 0 || waitpid(child, &status, 0) != child) std::abort();
+  return status;
+}
+
+/// The child's exit code: 0 unless the action calls _exit itself.
+inline int exitCodeOfChild(const std::function<void()>& action) {
+  const int status = statusOfChild(action);
+  if (!WIFEXITED(status)) std::abort();
   return WEXITSTATUS(status);
+}
+
+/// The signal that ends the child, 0 where none does.
+inline int signalThatEnds(const std::function<void()>& action) {
+  const int status = statusOfChild(action);
+  return WIFSIGNALED(status) ? WTERMSIG(status) : 0;
 }
 
 /// In a child: gives up the rights of the superuser, who may write everywhere.
