@@ -4,6 +4,7 @@
 #include "cli/arguments.h"
 #include "cli/commands.h"
 #include "cli/output.h"
+#include "platform/held_signals.h"
 #include "runtime/run_time_error.h"
 
 namespace {
@@ -40,6 +41,7 @@ ExitCode runReporting(const Arguments& arguments) {
 }  // namespace
 
 int main(int argc, char** argv) {
+  reportFileSizeLimitAsError();
   const ParsedArguments parsed = parseArguments({argv + 1, argv + argc});
   if (parsed.exitCode) {
     std::FILE* stream = *parsed.exitCode == ExitCode::Success ? stdout : stderr;

@@ -1,4 +1,5 @@
 #include <gmock/gmock.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 
 #include "cli/cli.h"
@@ -51,6 +52,19 @@ TEST_F(Errors, AMissingFolder) {
 TEST_F(Errors, AMissingFolderForTheCopy) {
   expectError({"copy", examplePath("ozone"), folder / "no/where"},
               (folder / "no/where.dat") + ": Run-time error '76': Path not found");
+}
+
+TEST_F(Errors, ALimitForTheSizeOfFiles) {
+  test::Pipe err;
+  test::Process process(STDIN_FILENO, STDOUT_FILENO, err.writing.number(), [&] {
+    const rlimit limit = {100, 100};
+    setrlimit(RLIMIT_FSIZE, &limit);
+    return test::execute(TAVIMOR_CLI, {"copy", examplePath("ozone"), folder / "copy"});
+  });
+  err.writing.close();
+  EXPECT_EQ(test::readAll(err.reading), "tavimor-cli: " + (folder / "copy.dat") + ": Run-time error '61': Disk full\n");
+  EXPECT_EQ(process.wait(), 1);
+  EXPECT_TRUE(test::namesIn(folder.path()).empty());
 }
 
 TEST_F(Errors, AFolderIsNoProblem) {

@@ -14,16 +14,7 @@ namespace {
 
 using test::Fault;
 using test::FaultySteps;
-
-// Every number of the pair, in both files, is this mark, the counts excepted: a mixed pair shows both marks.
-Dimension markedProblem(double mark) {
-  Dimension model = test::gridProblem({2, 2});
-  test::pretendFit(model);
-  model.LowerLimit = {mark, mark};
-  for (Table4* table : {&model.F, &model.Coef}) std::fill_n(table->data(), table->size(), mark);
-  model.AvgGiven = mark;
-  return model;
-}
+using test::markedProblem;
 
 constexpr double kOld = 1, kNew = 2;
 

@@ -71,6 +71,15 @@ void pretendFit(Dimension& model) {
   model.AvgEstimated = 2.25;
 }
 
+Dimension markedProblem(double mark) {
+  Dimension model = gridProblem({2, 2});
+  pretendFit(model);
+  model.LowerLimit = {mark, mark};
+  for (Table4* table : {&model.F, &model.Coef}) std::fill_n(table->data(), table->size(), mark);
+  model.AvgGiven = mark;
+  return model;
+}
+
 Dimension randomProblem(std::mt19937_64& random) {
   Dimension model;
   model.LastVar = below(random, kMaxVariables);

@@ -17,6 +17,10 @@ void pretendFit(Dimension& model);
 /// A problem whose every stored entry is random: sizes, names, numbers of all magnitudes, with or without a fit.
 Dimension randomProblem(std::mt19937_64& random);
 
+/// A problem with a fit whose every number, in both files, is this mark, the counts excepted: a pair that is mixed from
+/// two of them shows both marks.
+Dimension markedProblem(double mark);
+
 /// The function's values with the last index fastest, as files hold them.
 std::vector<double> valuesLastIndexFastest(const Table4& table);
 

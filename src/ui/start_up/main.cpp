@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "formats/problem_writer.h"
+#include "platform/held_signals.h"
 #include "ui/controls/application.h"
 #include "ui/controls/polite_end.h"
 #include "ui/main_window/frmTavimor.h"
@@ -42,6 +43,7 @@ bool asksForTextOnly(int argc, char** argv) {
 }  // namespace
 
 int main(int argc, char** argv) {
+  reportFileSizeLimitAsError();
   if (asksForTextOnly(argc, argv)) return parse(argc, argv).exitCode.value_or(0);
   Application application(argc, argv);  // takes the toolkit's own options away
   const Arguments arguments = parse(argc, argv);
