@@ -22,9 +22,11 @@ constexpr auto kPause = 1ms;
 bool isFile(const std::string& path) { return factsOf(path).kind == FileKind::Regular; }
 
 bool isStill(const FileHandle& file, const std::string& path) {
+  const FileFacts there = factsOf(path, LastLink::Follow);
+  if (!file) return there.kind == FileKind::Missing;
   FileFacts facts;
   if (!queryFile(file.get(), facts)) throw fileError(errno, path);
-  return facts.isSameFileAs(factsOf(path, LastLink::Follow));
+  return facts.isSameFileAs(there);
 }
 
 // A path where nothing stands is null, and everything else that cannot be read an error.
@@ -49,15 +51,8 @@ bool areStillThePair(const OpenPair& pair, const std::string& path) {
 // Nothing, where a save has changed the pair meanwhile.
 std::optional<OpenPair> tryToOpen(const std::string& path) {
   OpenPair pair{readablePair(path), nullptr, nullptr};
-  for (const auto& [file, name] :
-       {std::pair(&pair.specification, &pair.paths.specification), std::pair(&pair.values, &pair.paths.values)}) {
-    *file = openRegularFile(*name);
-    if (*file) continue;
-    const bool isMissing =
-        readablePair(path) == pair.paths && factsOf(*name, LastLink::Follow).kind == FileKind::Missing;
-    if (isMissing) throw fileError(ENOENT, *name);
-    return std::nullopt;
-  }
+  pair.specification = openRegularFile(pair.paths.specification);
+  pair.values = openRegularFile(pair.paths.values);
   if (!areStillThePair(pair, path)) return std::nullopt;
   return pair;
 }

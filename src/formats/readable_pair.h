@@ -10,7 +10,7 @@ namespace tavimor {
 /// Errors: PathFileAccess for links that lead in a circle, a RunTimeError where the system does not tell.
 PairPaths readablePair(const std::string& path);
 
-/// Both files of a problem, open for reading.
+/// Both files of a problem, open for reading; a missing one is null.
 struct OpenPair {
   PairPaths paths;
   FileHandle specification;

@@ -33,6 +33,7 @@ FileHandle opened(const std::string& path) {
 
 std::uint64_t regularFileSize(std::FILE* file, const std::string& path) {
   FileFacts facts;
+  if (file == nullptr) throw fileError(ENOENT, path);
   if (!queryFile(file, facts)) throw fileError(errno, path);
   if (facts.kind != FileKind::Regular) throw fileError(EISDIR, path);
   return facts.size;

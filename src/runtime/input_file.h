@@ -23,7 +23,7 @@ class InputFile {
  public:
   explicit InputFile(const std::string& path);
 
-  /// Reads a file that is open already.
+  /// Reads a file that is open already. Null stands for a file that is missing.
   InputFile(FileHandle file, const std::string& path);
 
   /// A text without its quotes. The closing quote is one that a comma or the line's end follows, blanks between
