@@ -3,6 +3,7 @@
 #include <future>
 #include <new>
 #include <optional>
+#include <system_error>
 #include <utility>
 #include <vector>
 
@@ -23,6 +24,16 @@ std::optional<Long> axisWithoutRoom(const Problem& problem) {
   return std::nullopt;
 }
 
+// Work that is done beside the caller's, or, where no thread is to be had, when its result is asked for.
+template <class Work>
+auto startBeside(const Work& work) {
+  try {
+    return std::async(std::launch::async, work);
+  } catch (const std::system_error&) {
+    return std::async(std::launch::deferred, work);
+  }
+}
+
 // The normal matrices need nothing of the right-hand side. Those of long axes are made beside it, in threads of their
 // own, the others when they are asked for.
 std::vector<std::future<Gram>> normalMatrices(const Problem& problem, const FitOptions& options) {
@@ -31,8 +42,8 @@ std::vector<std::future<Gram>> normalMatrices(const Problem& problem, const FitO
   for (Long k = 0; k <= problem.LastVar; ++k) {
     const double terms = problem.Degree[k] + 1.0;
     const bool pays = options.threads != 1 && problem.LastPoint[k] * terms * terms > workWorthAThread;
-    matrices.push_back(std::async(pays ? std::launch::async : std::launch::deferred,
-                                  [&problem, k, &options] { return normalMatrix(problem, k, options); }));
+    const auto work = [&problem, k, &options] { return normalMatrix(problem, k, options); };
+    matrices.push_back(pays ? startBeside(work) : std::async(std::launch::deferred, work));
   }
   return matrices;
 }
@@ -49,11 +60,12 @@ std::optional<Long> solve(std::vector<std::future<Gram>> matrices, Table4& Coef)
 // The first variable whose system is singular, found on a single line: no larger table is needed to tell.
 std::optional<Long> singularVariable(const Problem& problem, const FitOptions& options) {
   for (Long k = 0; k <= problem.LastVar; ++k) {
+    Gram gram =
+        normalMatrix(problem, k, options);  // first: it refuses a degree for which a line alone fills the memory
     PerVariable<Long> line{};
     line[k] = problem.Degree[k];
     Table4 Coef;
     Coef.redim(line);
-    Gram gram = normalMatrix(problem, k, options);
     if (solveAlong(k, gram, Coef) == Solution::Singular) return k;
   }
   return std::nullopt;

@@ -32,7 +32,13 @@ void inParallel(std::size_t count, double workOfOne, int threads,
     }
   };
   std::vector<std::thread> others;
-  for (std::size_t part = 1; part < parts; ++part) others.emplace_back(run, part);
+  others.reserve(parts - 1);
+  std::size_t part = 1;
+  try {
+    for (; part < parts; ++part) others.emplace_back(run, part);
+  } catch (const std::exception&) {  // no thread is to be had, or no memory for it
+    for (; part < parts; ++part) run(part);
+  }
   run(0);
   for (std::thread& other : others) other.join();
   for (const std::exception_ptr& failure : failures)

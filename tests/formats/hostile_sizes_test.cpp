@@ -1,6 +1,7 @@
 // A file may declare any size; memory is taken only for what the file can hold.
 #include <gtest/gtest.h>
 
+#include "engine/fit.h"
 #include "support/allocation_meter.h"
 #include "support/expect_error.h"
 #include "support/pair_files.h"
@@ -32,6 +33,16 @@ TEST_F(HostileSizes, TheMeterCounts) {
 TEST_F(HostileSizes, AHugeDegreeTakesNoMemory) {
   for (const char* degree : {"100000", "2147483646"})
     expectRefusedWithLittleMemory(std::string("0\nx,0,1,0,#FALSE#,0,") + degree + "\n#TRUE#\n1,2,3\n", kValues);
+}
+
+TEST_F(HostileSizes, AHugeDegreeTakesNoMemoryInAFit) {
+  for (const char* degree : {"1024", "100000", "2147483646"}) {
+    writePair(std::string("0\nx,0,1,0,#FALSE#,0,") + degree + "\n#FALSE#\n", "0\n1\n#TRUE#\n0\n1\n8\n9\n");
+    const StoredProblem stored = readProblem(path());
+    test::resetAllocations();
+    EXPECT_EQ(fit(stored.problem).ErrNumber, static_cast<Long>(ErrorNumber::OutOfMemory));
+    EXPECT_LT(test::allocatedBytes(), kFixedBytes);
+  }
 }
 
 TEST_F(HostileSizes, HugeDegreesOfSeveralVariablesTakeNoMemory) {
