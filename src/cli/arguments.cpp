@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "runtime/numeral.h"
+#include "runtime/text.h"
 
 namespace tavimor {
 
@@ -79,7 +80,8 @@ std::string complaint(const CLI::App& app, const CLI::ParseError& error) {
   std::vector<std::string> unexpected = app.remaining(true);
   std::erase(unexpected, "--");
   const bool hasCommand = !app.get_subcommands().empty();
-  if (!unexpected.empty()) return (hasCommand ? "unexpected argument \"" : "no such command: \"") + unexpected[0] + '"';
+  if (!unexpected.empty())
+    return (hasCommand ? "unexpected argument \"" : "no such command: \"") + withEscapes(unexpected[0]) + '"';
   if (dynamic_cast<const CLI::ArgumentMismatch*>(&error) != nullptr) return "--output: a file name is needed";
   return hasCommand ? error.what() : "a command is needed";
 }

@@ -10,8 +10,8 @@ namespace tavimor {
 /// Reads standard input line by line, taking what has come instead of waiting for more.
 class InputLines {
  public:
-  /// Bytes after which a line is cut and the rest taken for the next one: no list of numbers is that long, and without
-  /// a bound a file that has no line ends would fill the memory.
+  /// A line has fewer bytes than this: one that reaches them is given without its end, and must be refused. No list of
+  /// numbers is that long, and without a bound a file that has no line ends would fill the memory.
   static constexpr std::size_t kLongestLine = std::size_t{64} * 1024;
 
   /// Calls `beforeWaiting` whenever it has no whole line left and asks the system for more.

@@ -1,5 +1,7 @@
 #include <cstdio>
 #include <new>
+#include <string>
+#include <vector>
 
 #include "cli/arguments.h"
 #include "cli/commands.h"
@@ -38,15 +40,24 @@ ExitCode runReporting(const Arguments& arguments) {
   }
 }
 
+ExitCode runWords(const std::vector<std::string>& words) {
+  const ParsedArguments parsed = parseArguments(words);
+  if (parsed.exitCode) {
+    std::FILE* stream = *parsed.exitCode == ExitCode::Success ? stdout : stderr;
+    std::fputs(parsed.message.c_str(), stream);
+    return *parsed.exitCode;
+  }
+  return runReporting(parsed.arguments);
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
   reportFileSizeLimitAsError();
-  const ParsedArguments parsed = parseArguments({argv + 1, argv + argc});
-  if (parsed.exitCode) {
-    std::FILE* stream = *parsed.exitCode == ExitCode::Success ? stdout : stderr;
-    std::fputs(parsed.message.c_str(), stream);
-    return static_cast<int>(*parsed.exitCode);
+  try {
+    return static_cast<int>(runWords({argv + 1, argv + argc}));
+  } catch (const std::exception&) {  // not even memory for the words, or for a message
+    std::fputs("tavimor-cli: Run-time error '7': Out of memory\n", stderr);
+    return static_cast<int>(ExitCode::Error);
   }
-  return static_cast<int>(runReporting(parsed.arguments));
 }

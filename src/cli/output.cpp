@@ -4,6 +4,7 @@
 #include <cstdio>
 
 #include "runtime/run_time_error.h"
+#include "runtime/text.h"
 
 namespace tavimor {
 
@@ -23,8 +24,8 @@ void printLine(const std::string& line) {
 void finishOutput() { require(std::fflush(stdout) == 0); }
 
 void complain(const std::string& path, const std::string& reason) {
-  const std::string name = path.empty() ? "\"\"" : path;
-  std::fprintf(stderr, "tavimor-cli: %s: %s\n", name.c_str(), reason.c_str());
+  const std::string name = path.empty() ? "\"\"" : withEscapes(path);
+  std::fprintf(stderr, "tavimor-cli: %s: %s\n", name.c_str(), withEscapes(reason).c_str());
 }
 
 }  // namespace tavimor

@@ -39,6 +39,24 @@ std::size_t leadingCharacter(std::string_view text) {
   return length;
 }
 
+void appendEscape(std::string& text, unsigned char byte) {
+  constexpr std::string_view digits = "0123456789ABCDEF";
+  switch (byte) {
+    case '\n': text += "\\n"; return;
+    case '\r': text += "\\r"; return;
+    case '\t': text += "\\t"; return;
+    default: text += {'\\', 'x', digits[byte >> 4], digits[byte & 0xF]};
+  }
+}
+
+// U+0000 to U+001F, U+007F to U+009F, and U+2028 and U+2029, which end a line as well.
+bool isControl(std::string_view character) {
+  const auto lead = static_cast<unsigned char>(character[0]);
+  if (character.size() == 1) return lead < ' ' || lead == 0x7F;
+  if (character.size() == 2) return lead == 0xC2 && static_cast<unsigned char>(character[1]) < 0xA0;
+  return character == "\u2028" || character == "\u2029";
+}
+
 void appendLatin1(std::string& utf8, unsigned char byte) {
   utf8.push_back(static_cast<char>(0xC0 | (byte >> 6)));
   utf8.push_back(static_cast<char>(0x80 | (byte & 0x3F)));
@@ -68,6 +86,20 @@ std::string utf8FromBytes(std::string_view bytes) {
     bytes.remove_prefix(std::max<std::size_t>(length, 1));
   }
   return utf8;
+}
+
+std::string withEscapes(std::string_view text) {
+  std::string escaped;
+  while (!text.empty()) {
+    const std::size_t length = leadingCharacter(text);
+    const std::string_view character = text.substr(0, std::max<std::size_t>(length, 1));
+    if (length > 0 && !isControl(character))
+      escaped += character;
+    else
+      for (const char byte : character) appendEscape(escaped, static_cast<unsigned char>(byte));
+    text.remove_prefix(character.size());
+  }
+  return escaped;
 }
 
 std::size_t characterCount(std::string_view text) {

@@ -21,6 +21,10 @@ std::string_view firstCharacters(std::string_view text, std::size_t count);
 /// characters: what would stand beyond the end is dropped.
 std::string overlaid(std::string_view line, std::size_t column, std::string_view insert);
 
+/// The text fit for one line of a message: control characters, and bytes that are no UTF-8, as escapes ("\\n",
+/// "\\x1B").
+std::string withEscapes(std::string_view text);
+
 /// The text without the blanks and tabs at both ends.
 std::string_view trimmed(std::string_view text);
 

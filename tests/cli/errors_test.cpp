@@ -40,6 +40,10 @@ TEST_F(Errors, AMissingProblem) {
   expectError({"copy", folder / "none", folder / "copy"}, (folder / "none") + ": Run-time error '53': File not found");
 }
 
+TEST_F(Errors, ANameThatWouldMakeTwoLinesOrReachTheTerminal) {
+  expectError({"fit", folder / "a\nb\x1B[2Jc"}, (folder / "a\\nb\\x1B[2Jc") + ": Run-time error '53': File not found");
+}
+
 TEST_F(Errors, AMissingValuesFile) {
   test::writeBytes(folder / "half", test::readBytes(examplePath("ozone")));
   expectError({"fit", folder / "half"}, (folder / "half.dat") + ": Run-time error '53': File not found");

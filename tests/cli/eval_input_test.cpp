@@ -72,8 +72,21 @@ TEST_F(EvalInput, AnEndlessLineIsRefusedWithoutBeingHeld) {
   const Outcome outcome = evalLine("0\n" + std::string(4 * InputLines::kLongestLine, 'x'));
   EXPECT_EQ(outcome.exitCode, 1);
   EXPECT_EQ(outcome.out, "3\n");
-  EXPECT_EQ(outcome.err, "tavimor-cli: standard input: line 2: expected one number, for x, found \"" +
-                             std::string(40, 'x') + "\"\n");
+  EXPECT_EQ(outcome.err,
+            "tavimor-cli: standard input: line 2: expected one number, for x, found a line that is too long\n");
+}
+
+TEST_F(EvalInput, ALineOfAnyLengthIsOnePointOrRefused) {
+  for (const std::size_t blanks : {std::size_t{1000}, InputLines::kLongestLine - 3}) {
+    const Outcome outcome = evalLine("0\n" + std::string(blanks, ' ') + "12\n1\n");
+    EXPECT_EQ(outcome.exitCode, 0) << blanks;
+    EXPECT_EQ(outcome.out, "3\n27\n5\n") << blanks;
+  }
+  for (std::size_t blanks = InputLines::kLongestLine - 2; blanks < InputLines::kLongestLine + 2; ++blanks) {
+    const Outcome outcome = evalLine("0\n" + std::string(blanks, ' ') + "12\n");
+    EXPECT_EQ(outcome.exitCode, 1) << blanks;
+    EXPECT_EQ(outcome.out, "3\n") << blanks;
+  }
 }
 
 TEST_F(EvalInput, ManyLinesComeOutInOrder) {

@@ -33,6 +33,15 @@ TEST(Text, EachByteOfAnIllFormedCharacterCountsForItself) {
   EXPECT_EQ(characterCount(utf8FromBytes("\x80")), 1u);
 }
 
+TEST(Text, WhatWouldDisturbAMessageIsAnEscape) {
+  EXPECT_EQ(withEscapes("a\nb\r\tc\x1B[2Jd\x7F"), "a\\nb\\r\\tc\\x1B[2Jd\\x7F");
+  EXPECT_EQ(withEscapes("\u009B"), "\\xC2\\x9B");
+  EXPECT_EQ(withEscapes("\u2028"), "\\xE2\\x80\\xA8");
+  EXPECT_EQ(withEscapes("\x9B\xFF"), "\\x9B\\xFF");
+  for (const char* text : {"", "x", "C:\\Größe in µm", "\u00A0", "\u2027", "\U0001F600"})
+    EXPECT_EQ(withEscapes(text), text);
+}
+
 TEST(Text, WhatWasMadeUtf8StaysAsItIs) {
   std::string everyByte;
   for (int c = 0; c < 256; ++c) everyByte += static_cast<char>(c);

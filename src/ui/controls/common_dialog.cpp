@@ -5,7 +5,8 @@
 #include <QFileDialog>
 #include <QFileInfo>
 
-#include "formats/file_pair.h"
+#include "formats/pair_paths.h"
+#include "runtime/text.h"
 #include "ui/controls/help/help_file.h"
 #include "ui/controls/help/help_viewer.h"
 #include "ui/controls/message_box.h"
@@ -19,7 +20,7 @@ QString existingFiles(const std::string& path) {
   QStringList existing;
   const PairPaths pair = pairPaths(path);
   for (const std::string& file : {pair.specification, pair.values})
-    if (const QString name = QString::fromStdString(file); QFileInfo::exists(name)) existing << name;
+    if (QFileInfo::exists(QString::fromStdString(file))) existing << QString::fromStdString(withEscapes(file));
   return existing.join(QLatin1Char('\n'));
 }
 

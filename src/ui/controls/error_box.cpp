@@ -3,6 +3,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 
+#include "runtime/text.h"
 #include "ui/controls/common_dialog.h"
 #include "ui/controls/message_box.h"
 
@@ -15,7 +16,8 @@ using Save = std::function<void(const std::string&)>;
 QString failureText(const Failure& failure) {
   const QString text =
       QStringLiteral("%1:\n\n%2").arg(QString::fromStdString(failure.heading()), QString::fromUtf8(failure.what()));
-  return failure.path().empty() ? text : text + QStringLiteral("\n") + QString::fromStdString(failure.path());
+  return failure.path().empty() ? text
+                                : text + QStringLiteral("\n") + QString::fromStdString(withEscapes(failure.path()));
 }
 
 bool wantsCopy(const Failure& failure, const Save& save) {

@@ -4,6 +4,7 @@
 #include "formats/problem_writer.h"
 #include "runtime/failure.h"
 #include "runtime/number_text.h"
+#include "runtime/text.h"
 #include "runtime/val.h"
 #include "ui/controls/message_box.h"
 #include "ui/main_window/frmTavimor.h"
@@ -14,7 +15,7 @@ namespace {
 
 void reportUnopened(const std::string& path, const std::string& reason) {
   showWarning(QStringLiteral("The problem cannot be opened:\n\n%1\n\n%2")
-                  .arg(QString::fromStdString(path), QString::fromStdString(reason)));
+                  .arg(QString::fromStdString(withEscapes(path)), QString::fromStdString(reason)));
 }
 
 }  // namespace
