@@ -2,7 +2,7 @@
 
 #include "cli/fitting.h"
 #include "cli/output.h"
-#include "formats/problem_writer.h"
+#include "cli/problem_files.h"
 #include "model/capture_specs.h"
 #include "report/listing.h"
 #include "report/no_fit_text.h"
@@ -12,7 +12,7 @@
 namespace tavimor {
 
 ExitCode fitCommand(const std::string& problem, const std::string& output) {
-  OpenedProblem opened = openProblem(problem);
+  OpenedProblem opened = openShowingProgress(problem);
   const FitOutcome outcome = fitShowingProgress(opened);
   if (outcome.end == FitEnd::Singular)
     printLine(kSingularMatrix);
@@ -22,12 +22,12 @@ ExitCode fitCommand(const std::string& problem, const std::string& output) {
     ShowResults(opened.problem, opened.fit, printLine);
   finishOutput();
   if (outcome.end != FitEnd::Found) return ExitCode::NoFit;
-  if (!output.empty()) writeProblem(opened.problem, opened.fit, output);
+  if (!output.empty()) saveShowingProgress(opened, output);
   return ExitCode::Success;
 }
 
 ExitCode showCommand(const std::string& problem) {
-  const OpenedProblem opened = openProblem(problem);
+  const OpenedProblem opened = openShowingProgress(problem);
   for (Long k = 0; k <= opened.problem.LastVar; ++k) variableLines(opened.problem, k, printLine);
   if (opened.fit.FitDone) ShowResults(opened.problem, opened.fit, printLine);
   finishOutput();
@@ -35,7 +35,7 @@ ExitCode showCommand(const std::string& problem) {
 }
 
 ExitCode reportCommand(const std::string& problem) {
-  OpenedProblem opened = openProblem(problem);
+  OpenedProblem opened = openShowingProgress(problem);
   CaptureSpecs(opened.problem, opened.fields);
   try {
     reportLines(opened.problem, opened.fit, printLine);
@@ -48,9 +48,9 @@ ExitCode reportCommand(const std::string& problem) {
 }
 
 ExitCode copyCommand(const std::string& problem, const std::string& output) {
-  OpenedProblem opened = openProblem(problem);
+  OpenedProblem opened = openShowingProgress(problem);
   CaptureSpecs(opened.problem, opened.fields);
-  writeProblem(opened.problem, opened.fit, output);
+  saveShowingProgress(opened, output);
   return ExitCode::Success;
 }
 

@@ -5,6 +5,7 @@
 #include "cli/input_lines.h"
 #include "cli/output.h"
 #include "cli/point.h"
+#include "cli/problem_files.h"
 #include "engine/polynomial.h"
 #include "platform/terminal.h"
 #include "report/no_fit_text.h"
@@ -62,12 +63,14 @@ void evaluateInput(const OpenedProblem& opened) {
   long number = 0;
   while (const auto line = lines.next()) {
     ++number;
-    const auto point = parsePoint(*line, problem.LastVar + 1);
+    const bool isTooLong = line->size() >= InputLines::kLongestLine;
+    const auto point = isTooLong ? std::nullopt : parsePoint(*line, problem.LastVar + 1);
     if (!point) {
       finishOutput();
       std::string_view found = *line;
       if (found.ends_with('\r')) found.remove_suffix(1);
-      throw BadFile("standard input", number, expectedPoint(problem), quoted(found));
+      throw BadFile("standard input", number, expectedPoint(problem),
+                    isTooLong ? "a line that is too long" : quoted(found));
     }
     printEstimate(opened, *point);
   }
@@ -85,7 +88,7 @@ bool provideFit(OpenedProblem& opened, const std::string& path) {
 }  // namespace
 
 ExitCode evalCommand(const std::string& problem, const std::vector<std::string>& values) {
-  OpenedProblem opened = openProblem(problem);
+  OpenedProblem opened = openShowingProgress(problem);
   PerVariable<double> point{};
   if (!values.empty()) point = pointFromArguments(opened.problem, values);
   if (!provideFit(opened, problem)) return ExitCode::NoFit;

@@ -6,8 +6,8 @@
 
 namespace tavimor {
 
-OpenedProblem openProblem(const std::string& path) {
-  StoredProblem stored = readProblem(path);
+OpenedProblem openProblem(const std::string& path, const Progress& progress) {
+  StoredProblem stored = readProblem(path, progress);
   AllSpecFields fields;
   SetDisplayedSpecs(stored.problem, fields);
   for (Long v = 0; v < kMaxVariables; ++v) fields[v].txtExpansion = stored.centres[v];

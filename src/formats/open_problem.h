@@ -4,6 +4,7 @@
 
 #include "model/fit.h"
 #include "model/spec_fields.h"
+#include "runtime/progress.h"
 
 namespace tavimor {
 
@@ -15,6 +16,6 @@ struct OpenedProblem {
 };
 
 /// Reads a problem pair. Errors: as readProblem.
-OpenedProblem openProblem(const std::string& path);
+OpenedProblem openProblem(const std::string& path, const Progress& progress = {});
 
 }  // namespace tavimor

@@ -10,6 +10,7 @@
 #include "formats/readable_pair.h"
 #include "model/spec_fields.h"
 #include "model/value_lists.h"
+#include "platform/file_query.h"
 #include "platform/memory.h"
 #include "runtime/input_file.h"
 #include "runtime/val.h"
@@ -167,13 +168,24 @@ void readValues(InputFile file, StoredProblem& stored) {
   file.expectEnd();
 }
 
+double sizeOf(const FileHandle& file) {
+  FileFacts facts;
+  return file && queryFile(file.get(), facts) ? static_cast<double>(facts.size) : 0.0;
+}
+
 }  // namespace
 
-StoredProblem readProblem(const std::string& path) {
+StoredProblem readProblem(const std::string& path, const Progress& progress) {
   StoredProblem stored;
   OpenPair pair = openPair(path);
-  readSpecification({std::move(pair.specification), pair.paths.specification}, stored);
-  readValues({std::move(pair.values), pair.paths.values}, stored);
+  const double first = sizeOf(pair.specification), second = sizeOf(pair.values);
+  const double part = first / std::max(first + second, 1.0);
+  InputFile specification(std::move(pair.specification), pair.paths.specification);
+  if (progress) specification.setProgress([&](double share) { progress(share * part); });
+  readSpecification(std::move(specification), stored);
+  InputFile values(std::move(pair.values), pair.paths.values);
+  if (progress) values.setProgress([&](double share) { progress(part + share * (1.0 - part)); });
+  readValues(std::move(values), stored);
   return stored;
 }
 

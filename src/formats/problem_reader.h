@@ -4,6 +4,7 @@
 
 #include "model/fit.h"
 #include "model/problem.h"
+#include "runtime/progress.h"
 
 namespace tavimor {
 
@@ -19,9 +20,10 @@ struct StoredProblem {
 
 /// Reads the problem pair `path` and `path`.dat.
 ///
+/// `progress` is told the share of both files together.
 /// The number of variables stands in both files, and the one in the values file holds: further variables are forgotten.
 /// Errors: a RunTimeError where the system refuses a file, a BadFile where its content does not fit. No table is
 /// made that is larger than the rest of the file can fill.
-StoredProblem readProblem(const std::string& path);
+StoredProblem readProblem(const std::string& path, const Progress& progress = {});
 
 }  // namespace tavimor

@@ -8,17 +8,41 @@ namespace tavimor {
 
 namespace {
 
-void writeSpecification(const Problem& problem, const Fit& fit, OutputFile& file) {
+constexpr std::size_t kNumbersBetweenReports = 4096;
+
+// Counts the numbers of the tables, which are nearly all that is written.
+class Count {
+ public:
+  Count(const Problem& problem, const Fit& fit, const Progress& progress)
+      : all_(problem.F.size() + (fit.FitDone ? fit.Coef.size() : 0)), progress_(progress) {}
+
+  void addOne() {
+    if (++done_ % kNumbersBetweenReports == 0 && progress_)
+      progress_(static_cast<double>(done_) / static_cast<double>(all_));
+  }
+
+ private:
+  std::size_t all_;
+  std::size_t done_ = 0;
+  const Progress& progress_;
+};
+
+void print(double number, OutputFile& file, Count& count) {
+  file.print(number);
+  count.addOne();
+}
+
+void writeSpecification(const Problem& problem, const Fit& fit, OutputFile& file, Count& count) {
   file.print(problem.LastVar);
   for (Long v = 0; v <= problem.LastVar; ++v)
     file.write(problem.VarName[v], problem.LowerLimit[v], problem.UpperLimit[v], problem.Centre[v],
                problem.PeriodFlag[v], problem.Period[v], problem.Degree[v]);
   file.write(fit.FitDone);
   if (!fit.FitDone) return;
-  for (std::size_t n = 0; n < fit.Coef.size(); ++n) file.print(fit.Coef.data()[n]);  // first index fastest
+  for (std::size_t n = 0; n < fit.Coef.size(); ++n) print(fit.Coef.data()[n], file, count);  // first index fastest
 }
 
-void writeValues(const Problem& problem, const Fit& fit, OutputFile& file) {
+void writeValues(const Problem& problem, const Fit& fit, OutputFile& file, Count& count) {
   file.print(problem.LastVar);
   for (Long v = 0; v <= problem.LastVar; ++v) {
     file.print(problem.LastPoint[v]);
@@ -27,17 +51,19 @@ void writeValues(const Problem& problem, const Fit& fit, OutputFile& file) {
   for (Long d = 0; d < kMaxVariables; ++d)
     if (problem.LastPoint[d] != 0)
       for (const double value : valueList(problem, d)) file.print(value);
-  forEachIndex<Fastest::Last>(problem.LastPoint, [&](const PerVariable<Long>& i) { file.print(problem.F(i)); });
+  forEachIndex<Fastest::Last>(problem.LastPoint, [&](const PerVariable<Long>& i) { print(problem.F(i), file, count); });
   if (fit.FitDone)
     file.write(problem.NumGridPoints, fit.CorrCoef, fit.StdErr, fit.SumRes2, fit.AvgGiven, fit.AvgEstimated);
 }
 
 }  // namespace
 
-void writeProblem(const Problem& problem, const Fit& fit, const std::string& path, FileSteps& steps) {
+void writeProblem(const Problem& problem, const Fit& fit, const std::string& path, FileSteps& steps,
+                  const Progress& progress) {
   FilePair pair(path, steps);
-  writeSpecification(problem, fit, pair.specification());
-  writeValues(problem, fit, pair.values());
+  Count count(problem, fit, progress);
+  writeSpecification(problem, fit, pair.specification(), count);
+  writeValues(problem, fit, pair.values(), count);
   pair.commit();
 }
 

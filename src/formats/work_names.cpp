@@ -2,7 +2,8 @@
 
 #include <algorithm>
 #include <array>
-#include <random>
+#include <chrono>
+#include <cstdint>
 
 namespace tavimor {
 
@@ -30,11 +31,11 @@ std::string newName(const std::string& target) { return marked(target, "new"); }
 std::string oldName(const std::string& target) { return marked(target, "old"); }
 std::string backName(const std::string& target) { return marked(target, "back"); }
 
+// The clock's last digits: no two saves of a target begin at one moment, and a file that is there is never taken.
 std::string ownName(const std::string& target) {
-  std::random_device random;
-  std::uniform_int_distribution<std::size_t> digit(0, kDigits.size() - 1);
+  auto ticks = static_cast<std::uint64_t>(std::chrono::system_clock::now().time_since_epoch().count());
   std::string digits;
-  while (digits.size() < kOwnDigits) digits += kDigits[digit(random)];
+  for (; digits.size() < kOwnDigits; ticks /= kDigits.size()) digits += kDigits[ticks % kDigits.size()];
   return marked(target, digits);
 }
 

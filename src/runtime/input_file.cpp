@@ -75,6 +75,7 @@ bool InputFile::fill() {
   last_ = at_ + left + got;
   unread_ -= std::min<std::uint64_t>(unread_, got);
   ended_ = std::feof(file_.get()) != 0;
+  if (progress_) progress_(1.0 - static_cast<double>(unread_) / static_cast<double>(size_));
   return true;
 }
 

@@ -7,10 +7,12 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "platform/files.h"
 #include "runtime/long.h"
+#include "runtime/progress.h"
 
 namespace tavimor {
 
@@ -25,6 +27,9 @@ class InputFile {
 
   /// Reads a file that is open already. Null stands for a file that is missing.
   InputFile(FileHandle file, const std::string& path);
+
+  /// Tells `progress` the share of the file that has been read, whenever more of it is.
+  void setProgress(Progress progress) { progress_ = std::move(progress); }
 
   /// A text without its quotes. The closing quote is one that a comma or the line's end follows, blanks between
   /// allowed, so that a text may hold quotes itself.
@@ -75,6 +80,8 @@ class InputFile {
   std::vector<char> window_;
   const char* at_;
   const char* last_;
+  std::uint64_t size_ = unread_;
+  Progress progress_;
   bool ended_ = false;  // nothing follows the window
   long line_ = 1;
 };
