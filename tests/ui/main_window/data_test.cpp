@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <QDir>
 #include <QFile>
 
 #include "support/stored.h"
@@ -103,6 +104,22 @@ TEST_F(AddToNewProblem, GeneratesTheValuesFirstAndAddsZeros) {
   click("cmdAddVars(0)");
   EXPECT_EQ(model.X0, (std::vector<double>{1, 2, 0, 0}));
   EXPECT_FALSE(box("txtPoints(0)").isEnabled());
+}
+
+TEST_F(AddToNewProblem, AWorkFileThatCannotBeIsToldBeforeAnythingChanges) {
+  Application& application = *static_cast<Application*>(qApp);
+  application.setEnding([](int) {});
+  declare("1", "x");
+  specify(0, "1", "2", "2", "1");
+  QDir(folder.path()).mkdir("FUNCTION");
+  QString text;
+  dialogs.expectAndType("2");
+  dialogs.expectAndPress("End", &text);
+  click("cmdAddVars(0)");
+  EXPECT_TRUE(text.startsWith("Run-time error '75'")) << text.toStdString();
+  EXPECT_TRUE(box("txtPoints(0)").isEnabled());
+  EXPECT_FALSE(model.ValuesGiven[0]);
+  EXPECT_EQ(textOf("txtPoints(0)"), "2");
 }
 
 class EditFunction : public MainWindowTest {
