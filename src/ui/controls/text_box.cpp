@@ -3,12 +3,16 @@
 #include <QApplication>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
+#include <utility>
 
 #include "ui/controls/typed_character.h"
 
 namespace tavimor {
 
 namespace {
+
+// The focus is on its way back to a box that has refused to lose it: who loses it now is not asked.
+bool isGivenBack = false;
 
 bool isEnter(int keyCode) { return keyCode == Qt::Key_Return || keyCode == Qt::Key_Enter; }
 
@@ -22,13 +26,15 @@ TextBox::TextBox(const QString& name, QWidget* parent) : QLineEdit(parent) {
 void TextBox::focusInEvent(QFocusEvent* event) {
   QLineEdit::focusInEvent(event);
   if (holdsFocus_) return;
+  // A window in the background changes its focus without a word to the box that had it: that one is left only now.
+  if (TextBox* holder = otherHolder(); holder != nullptr && !holder->letsGo(event->reason())) return;
   holdsFocus_ = true;
   emit GotFocus();
   isEntryClick_ = event->reason() == Qt::MouseFocusReason && hasSelectedText();
 }
 
 void TextBox::focusOutEvent(QFocusEvent* event) {
-  if (!isLeftFor(QApplication::focusWidget(), event->reason())) {
+  if (isGivenBack || !isLeftFor(QApplication::focusWidget(), event->reason())) {
     QLineEdit::focusOutEvent(event);
     return;
   }
@@ -39,6 +45,23 @@ void TextBox::focusOutEvent(QFocusEvent* event) {
   holdsFocus_ = false;
   QLineEdit::focusOutEvent(event);
   emit LostFocus();
+}
+
+TextBox* TextBox::otherHolder() const {
+  for (TextBox* box : window()->findChildren<TextBox*>())
+    if (box != this && box->holdsFocus_) return box;
+  return nullptr;
+}
+
+// Where it does not, it has taken the focus back.
+bool TextBox::letsGo(Qt::FocusReason reason) {
+  if (!mayLeave()) {
+    keepFocus(reason);
+    return false;
+  }
+  holdsFocus_ = false;
+  emit LostFocus();
+  return true;
 }
 
 // A control that was passed over on the way to another one has had no GotFocus: nothing is left there.
@@ -54,7 +77,9 @@ bool TextBox::mayLeave() {
 }
 
 void TextBox::keepFocus(Qt::FocusReason reason) {
+  const bool wasGivenBack = std::exchange(isGivenBack, true);
   setFocus(Qt::OtherFocusReason);
+  isGivenBack = wasGivenBack;
   // The press that asked for the focus is about to be delivered.
   if (reason == Qt::MouseFocusReason) qApp->installEventFilter(this);
 }

@@ -15,6 +15,8 @@ enum class EnterKey { Stays, MovesOn };
 /// Focus, in this order: Validate and LostFocus of the box that is left, then GotFocus of the one that is entered.
 /// Validate comes before the focus goes to another control of the same window, by Tab, Shift+Tab, mouse or program.
 /// Where a handler cancels it, the focus stays, no LostFocus comes, and a click that wanted the focus is swallowed.
+/// One box of a window holds the focus: where the window's focus has moved to another box while it was in the
+/// background, Validate and LostFocus come when that one is entered, and a box that refuses gets the focus back.
 /// What a GotFocus handler selects stays selected, also where a click brought the focus.
 /// A box that is hidden or disabled loses the focus without Validate. Menus, dialogs, other windows and other
 /// programs take the focus for a while only: neither Validate nor LostFocus comes, nor GotFocus on return.
@@ -52,6 +54,8 @@ class TextBox : public QLineEdit {
  private:
   bool isLeftFor(const QWidget* next, Qt::FocusReason reason) const;
   bool mayLeave();
+  bool letsGo(Qt::FocusReason reason);
+  TextBox* otherHolder() const;
   void keepFocus(Qt::FocusReason reason);
   QChar filtered(QChar character);
   void press(QKeyEvent* event);

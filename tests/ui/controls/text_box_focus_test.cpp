@@ -131,6 +131,39 @@ TEST_F(TextBoxFocus, ACancelledDoubleClickIsSwallowed) {
   EXPECT_EQ(clicks, 0);
 }
 
+// A window in the background changes its focus without a word to the box that had it.
+class TextBoxFocusInTheBackground : public TextBoxFocus {
+ protected:
+  void moveFocusInTheBackground() {
+    QWidget other;
+    other.show();
+    other.activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&other));
+    second.setFocus();
+    other.hide();
+    window.activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+  }
+};
+
+TEST_F(TextBoxFocusInTheBackground, LeavesTheBoxWhenTheOtherOneIsEntered) {
+  moveFocusInTheBackground();
+  EXPECT_EQ(log.take(), "first.Validate first.LostFocus second.GotFocus");
+  EXPECT_TRUE(second.hasFocus());
+}
+
+TEST_F(TextBoxFocusInTheBackground, TheBoxThatRefusedFirstKeepsIt) {
+  QObject::connect(&second, &TextBox::Validate, [this](bool& cancel) { cancel = refuses; });
+  refuses = true;
+  moveFocusInTheBackground();
+  EXPECT_EQ(log.take(), "first.Validate");
+  EXPECT_TRUE(first.hasFocus());
+  QTest::mouseClick(&second, Qt::LeftButton);
+  QTest::mouseClick(&first, Qt::LeftButton);
+  EXPECT_TRUE(first.hasFocus());
+  EXPECT_EQ(log.take(), "first.Validate");
+}
+
 TEST_F(TextBoxFocus, TypingGoesOnAfterACancelledMove) {
   refuses = true;
   QTest::mouseClick(&second, Qt::LeftButton);
