@@ -58,6 +58,28 @@ TEST_F(Errors, AMissingFolderForTheCopy) {
               (folder / "no/where.dat") + ": Run-time error '76': Path not found");
 }
 
+#ifndef __SANITIZE_ADDRESS__  // which takes terabytes of address space
+
+// From a little more than the program itself takes to enough, over the point where no thread finds its stack.
+TEST_F(Errors, LittleAddressSpaceIsAnErrorAndNoAbort) {
+  const std::string path = folder / "grid";
+  std::string values = "1\n199\n#FALSE#\n199\n#FALSE#\n";
+  for (int n = 0; n < 200 + 200 + 200 * 200; ++n) values += std::to_string(n % 200) + "\n";
+  writePair("grid", "1\nx,0,1,100,#TRUE#,0,40\ny,0,1,100,#TRUE#,0,40\n#FALSE#\n", values);
+  constexpr rlim_t kMegabyte = rlim_t{1} << 20;
+  for (rlim_t limit = 4 * kMegabyte; limit < 16 * kMegabyte; limit += kMegabyte / 4) {
+    const test::Descriptor nowhere(open("/dev/null", O_WRONLY | O_CLOEXEC));
+    test::Process process(STDIN_FILENO, nowhere.number(), nowhere.number(), [&] {
+      const rlimit space = {limit, limit};
+      setrlimit(RLIMIT_AS, &space);
+      return test::execute(TAVIMOR_CLI, {"fit", path, "-o", folder / "fitted"});
+    });
+    EXPECT_GE(process.wait(), 0) << limit;
+  }
+}
+
+#endif
+
 TEST_F(Errors, ALimitForTheSizeOfFiles) {
   test::Pipe err;
   test::Process process(STDIN_FILENO, STDOUT_FILENO, err.writing.number(), [&] {
