@@ -4,9 +4,11 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QLineEdit>
+#include <QPointer>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
+#include <QWindow>
 #include <algorithm>
 #include <array>
 #include <cstdio>
@@ -79,6 +81,29 @@ QWidgetList visibleWindows() {
   return windows;
 }
 
+QString textOf(const Key& key) {
+  if ((key.modifiers & (Qt::ControlModifier | Qt::AltModifier)) != 0) return {};
+  if (key.key < Qt::Key_Escape) return QString(QChar(static_cast<char16_t>(key.key))).toLower();
+  if (key.key == Qt::Key_Return) return QStringLiteral("\r");
+  return key.key == Qt::Key_Backspace ? QStringLiteral("\b") : QString();
+}
+
+// No events are dispatched between press and release, and the press may have been the window's end.
+void press(const QPointer<QWindow>& window, const Key& key) {
+  for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease})
+    if (window != nullptr) qt_handleKeyEvent(window, type, key.key, key.modifiers, textOf(key));
+}
+
+void clickAt(const QPointer<QWindow>& window, const QPoint& place) {
+  static int time = 0;
+  time += QApplication::doubleClickInterval() + 1;
+  for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease})
+    if (window != nullptr)
+      qt_handleMouseEvent(window, place, window->mapToGlobal(place),
+                          type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton, Qt::LeftButton, type,
+                          Qt::NoModifier, time);
+}
+
 void click(QWidget& window, unsigned which, unsigned place) {
   QWidgetList controls;
   for (QWidget* widget : window.findChildren<QWidget*>())
@@ -86,14 +111,14 @@ void click(QWidget& window, unsigned which, unsigned place) {
   QWidget* control = controls.isEmpty() ? &window : controls[static_cast<int>(which) % controls.size()];
   const QPoint within(static_cast<int>(place % 100) * control->width() / 100,
                       static_cast<int>(place / 100) * control->height() / 100);
-  QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, control->mapTo(&window, within));
+  clickAt(window.windowHandle(), control->mapTo(&window, within));
 }
 
 // Only what stays in the temporary folder: the dialog could remove files elsewhere.
 void answer(QFileDialog& dialog, unsigned which) {
   if (which % 2 == 0) return dialog.reject();
   if (auto* line = dialog.findChild<QLineEdit*>()) line->setText(which % 4 == 1 ? "problem" : "FUNCTION");
-  QTest::keyClick(&dialog, Qt::Key_Return);
+  press(dialog.windowHandle(), {Qt::Key_Return, Qt::NoModifier});
 }
 
 void perform(const Action& action) {
@@ -103,8 +128,7 @@ void perform(const Action& action) {
   if (auto* dialog = qobject_cast<QFileDialog*>(&window)) return answer(*dialog, action[2]);
   const unsigned kind = action[0] % 100;
   if (kind < kKey) {
-    const Key& key = kKeys[action[2] % kKeys.size()];
-    QTest::keyClick(window.windowHandle(), key.key, key.modifiers);
+    press(window.windowHandle(), kKeys[action[2] % kKeys.size()]);
   } else if (kind < kClick) {
     click(window, action[2], action[3]);
   } else if (kind < kActivate) {
