@@ -106,6 +106,7 @@ InputFile::NumberField InputFile::peekNumber(const char* item) {
     const char* end = afterBlanks(numeral.end);
     if (numeral.end != at_ && isFieldEnd(end) && !needsMore(end)) return {numeral.value, end};
     if (fill()) continue;  // the window may have cut the numeral, even between "1E" and "5"
+    end = std::find_if(end, last_, [this](const char& c) { return isFieldEnd(&c); });
     refuse(std::string(item) + " (a number)", needsMore(end) ? kTooLong : excerpt());
   }
 }

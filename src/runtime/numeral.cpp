@@ -7,6 +7,8 @@
 #include <cstdint>
 #include <cstring>
 #include <limits>
+#include <optional>
+#include <string>
 #include <string_view>
 
 namespace tavimor {
@@ -22,6 +24,8 @@ constexpr std::array<double, 23> kExactPowersOfTen = {1e0,  1e1,  1e2,  1e3,  1e
 constexpr int kLargestExactPower = static_cast<int>(kExactPowersOfTen.size()) - 1;
 constexpr int kDigitsInWord = std::numeric_limits<std::uint64_t>::digits10;  // 19: no overflow up to here
 constexpr int kExponentLimit = 100000000;  // more than a text's digits can make up for; ten times it is an int still
+
+constexpr std::string_view kDigitsOfLargest = "179769313486232";  // as a text of 15 digits shows them
 
 constexpr std::array<std::uint64_t, 9> kPowersOfTen = {1, 10, 100, 1000, 10000, 100000, 1000000, 10000000, 100000000};
 
@@ -113,11 +117,29 @@ long scientificExponent(const char* first, long powerOfTen, std::ptrdiff_t digit
   return powerOfTen + static_cast<long>(digitCount - leadingZeros) - 1;
 }
 
-double roundedByLibrary(const char* first, const char* end, long powerOfTen, std::ptrdiff_t digitCount) {
+// The digits of an unsigned numeral without the zeros at either end.
+std::string significantDigits(const char* first, const char* end) {
+  std::string digits;
+  for (; first != end && (isDigit(*first) || *first == '.'); ++first)
+    if (*first != '.' && !(digits.empty() && *first == '0')) digits += *first;
+  digits.erase(digits.find_last_not_of('0') + 1);
+  return digits;
+}
+
+// The text of the largest double, 1.79769313486232E+308, was rounded up to its 15 digits: as it stands it is just
+// beyond the range. Whoever writes the largest double is to read it back, so all numerals up to there stand for it.
+bool isTextOfLargest(const char* first, const char* end, long exponent) {
+  return exponent == std::numeric_limits<double>::max_exponent10 && significantDigits(first, end) <= kDigitsOfLargest;
+}
+
+// Nothing where the number is beyond the range.
+std::optional<double> roundedByLibrary(const char* first, const char* end, long powerOfTen, std::ptrdiff_t digitCount) {
   double value = 0.0;
-  if (std::from_chars(first, end, value).ec == std::errc::result_out_of_range)
-    return scientificExponent(first, powerOfTen, digitCount) > 0 ? std::numeric_limits<double>::infinity() : 0.0;
-  return value;
+  if (std::from_chars(first, end, value).ec != std::errc::result_out_of_range) return value;
+  const long exponent = scientificExponent(first, powerOfTen, digitCount);
+  if (exponent <= 0) return 0.0;
+  if (isTextOfLargest(first, end, exponent)) return std::numeric_limits<double>::max();
+  return std::nullopt;
 }
 
 Numeral scanUnsigned(const char* first, const char* last) {
@@ -132,7 +154,10 @@ Numeral scanUnsigned(const char* first, const char* last) {
   const long powerOfTen = exponent - static_cast<long>(digits.count - beforePoint);
   const bool exact = digits.count <= kDigitsInWord && digits.whole <= kLargestExactWhole &&
                      powerOfTen >= -kLargestExactPower && powerOfTen <= kLargestExactPower;
-  if (!exact) return {roundedByLibrary(first, at, powerOfTen, digits.count), at};
+  if (!exact) {
+    const std::optional<double> value = roundedByLibrary(first, at, powerOfTen, digits.count);
+    return value ? Numeral{*value, at} : Numeral{0.0, first};
+  }
   const double whole = static_cast<double>(digits.whole);
   if (powerOfTen < 0) return {whole / kExactPowersOfTen[-powerOfTen], at};
   return {whole * kExactPowersOfTen[powerOfTen], at};

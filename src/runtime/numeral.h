@@ -17,11 +17,12 @@ struct Numeral {
 /// | "1.5$abc"   | 1.5        | "1.5"      |
 /// | "1E"        | 1          | "1"        |
 /// | ".5", "5."  | 0.5, 5     | all        |
-/// | "1E400"     | infinity   | all        |
 /// | "1E-400"    | 0          | all        |
 /// | "abc", "."  | 0          | nothing    |
+/// | "1E400"     | 0          | nothing    |
 ///
-/// No blank is skipped. The value is the correctly rounded one, for any number of digits.
+/// No blank is skipped. The value is the correctly rounded one, for any number of digits. A number that is too large
+/// for a double is none. "1.79769313486232E+308", which numberText writes for the largest double, reads back as it.
 Numeral scanNumeral(const char* first, const char* last);
 
 }  // namespace tavimor

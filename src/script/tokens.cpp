@@ -1,7 +1,6 @@
 #include "script/tokens.h"
 
 #include <algorithm>
-#include <cmath>
 #include <string>
 
 #include "runtime/numeral.h"
@@ -31,12 +30,11 @@ std::size_t nameLength(std::string_view rest) {
   return hasMember ? static_cast<std::size_t>(end(length + 1)) : length;
 }
 
+// Digits that are no numeral are a number too large for a double.
 std::size_t numberLength(std::string_view rest) {
   const Numeral numeral = scanNumeral(rest.data(), rest.data() + rest.size());
-  const std::string_view text = rest.substr(0, static_cast<std::size_t>(numeral.end - rest.data()));
-  if (std::isinf(numeral.value))
-    throw ScriptFailure(description(ErrorNumber::Overflow) + (": '" + std::string(text) + "'"), rest.data());
-  return text.size();
+  if (numeral.end == rest.data()) throw ScriptFailure(description(ErrorNumber::Overflow), rest.data());
+  return static_cast<std::size_t>(numeral.end - rest.data());
 }
 
 std::string_view firstCharacter(std::string_view rest) {

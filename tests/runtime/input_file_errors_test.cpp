@@ -53,6 +53,8 @@ TEST_F(InputFileErrors, ANumberMustFillItsField) {
   expectNoNumber("#TRUE#", "\"#TRUE#\"");
   expectNoNumber("1E,2", "\"1E\"");
   expectNoNumber("inf", "\"inf\"");
+  expectNoNumber("1E400,2", "\"1E400\"");
+  expectNoNumber(" -1e309 \r\n", "\"-1e309\"");
 }
 
 TEST_F(InputFileErrors, AnEmptyFieldIsNoNumber) {

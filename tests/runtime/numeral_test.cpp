@@ -7,22 +7,28 @@
 #include <cstdint>
 #include <cstdlib>
 #include <cstring>
+#include <limits>
 #include <memory>
 #include <random>
 #include <string>
+
+#include "runtime/number_text.h"
+#include "runtime/val.h"
 
 namespace tavimor {
 namespace {
 
 std::uint64_t bits(double value) { return std::bit_cast<std::uint64_t>(value); }
 
-// The text is given without anything behind it, so that a sanitizer sees a read past its end.
+// Where strtod goes to infinity there is no numeral. The text is given without anything behind it, so that a sanitizer
+// sees a read past its end.
 void expectAsStrtod(const std::string& text) {
   const std::unique_ptr<char[]> exact(new char[text.size()]);
   std::memcpy(exact.get(), text.data(), text.size());
   const Numeral numeral = scanNumeral(exact.get(), exact.get() + text.size());
-  ASSERT_EQ(bits(numeral.value), bits(std::strtod(text.c_str(), nullptr))) << text.substr(0, 60);
-  ASSERT_EQ(numeral.end, exact.get() + text.size()) << text.substr(0, 60);
+  const double wanted = std::strtod(text.c_str(), nullptr);
+  ASSERT_EQ(bits(numeral.value), bits(std::isinf(wanted) ? 0.0 : wanted)) << text.substr(0, 60);
+  ASSERT_EQ(numeral.end - exact.get(), std::isinf(wanted) ? 0 : std::ssize(text)) << text.substr(0, 60);
 }
 
 std::string randomDigits(std::mt19937& random, int count) {
@@ -78,30 +84,11 @@ TEST(Numeral, HalvesAreRoundedToTheEvenNeighbour) {
 }
 
 TEST(Numeral, TheEdgesOfTheRangeAreReadAsStrtodReadsThem) {
-  for (const char* text : {"1.7976931348623157E308",
-                           "1.7976931348623158E308",
-                           "1.797693134862315807E308",
-                           "1.7976931348623159E308",
-                           "1.8E308",
-                           "1E309",
-                           "-1E309",
-                           "2.2250738585072014E-308",
-                           "2.2250738585072011E-308",
-                           "4.9E-324",
-                           "2.5E-324",
-                           "2.4703282292062327E-324",
-                           "2.4703282292062328E-324",
-                           "1E-324",
-                           "-1E-324",
-                           "1E-4000",
-                           "0E4000",
-                           "0E-4000",
-                           "0.0E999999999999",
-                           "000",
-                           "-0",
-                           "-0.000E5"})
+  for (const char* text :
+       {"1.7976931348623157E308", "1.7976931348623158E308", "1.797693134862315807E308", "2.2250738585072014E-308",
+        "2.2250738585072011E-308", "4.9E-324", "2.5E-324", "2.4703282292062327E-324", "2.4703282292062328E-324",
+        "1E-324", "-1E-324", "1E-4000", "0E4000", "0E-4000", "0.0E999999999999", "000", "-0", "-0.000E5"})
     expectAsStrtod(text);
-  expectAsStrtod("1" + std::string(400, '0'));
   expectAsStrtod("1" + std::string(400, '0') + "E-400");
   expectAsStrtod("0." + std::string(400, '0') + "1");
   expectAsStrtod("0." + std::string(400, '0') + "1E400");
@@ -114,6 +101,29 @@ TEST(Numeral, AnExponentMayOutweighAnyNumberOfDigits) {
   expectAsStrtod("0." + zeros + "1E150500");
   expectAsStrtod("1" + zeros + "E-150000");
   expectAsStrtod("1" + zeros + "E-150500");
+}
+
+TEST(Numeral, TheTextOfTheLargestDoubleReadsBackAsIt) {
+  constexpr double largest = std::numeric_limits<double>::max();
+  EXPECT_EQ(numberText(largest), "1.79769313486232E+308");
+  for (const std::string text : {"1.79769313486232E+308", "1.7976931348623159E308", "1.79769313486232000E308",
+                                 "0.00179769313486232e311", "179769313486232E294", "000017976931348623.2E295"}) {
+    const Numeral numeral = scanNumeral(text.data(), text.data() + text.size());
+    EXPECT_EQ(bits(numeral.value), bits(largest)) << text;
+    EXPECT_EQ(numeral.end, text.data() + text.size()) << text;
+    EXPECT_EQ(Val("-" + text), -largest) << text;
+  }
+}
+
+TEST(Numeral, ANumberThatIsTooLargeIsNone) {
+  for (const std::string& text :
+       {std::string("1E309"), std::string("-1E309"), std::string("1E400"), std::string("1.797693134862321E308"),
+        std::string("1.79769313486233E+308"), std::string("1.8E308"), std::string("1E99999999999999999999"),
+        "1" + std::string(400, '0'), "1" + std::string(400, '0') + ".5"}) {
+    const Numeral numeral = scanNumeral(text.data(), text.data() + text.size());
+    EXPECT_EQ(numeral.end, text.data()) << text.substr(0, 40);
+    EXPECT_EQ(bits(numeral.value), bits(0.0)) << text.substr(0, 40);
+  }
 }
 
 // Digits are taken eight at a time: what ends them may stand at any place of the eight.
