@@ -16,7 +16,7 @@ void Compute(Dimension& model, const LineSink& addItem, const FitOptions& option
 
 /// Sets the estimate S3 to the value of the fit at the point whose offsets t[k] = x[k] - Centre[k] the caller has set.
 /// Without a fit nothing is computed and S3 keeps the earlier estimate. Leaves I0 to I3 where the loops over the terms
-/// end.
+/// end. Errors: Overflow, as valueAt; S3 keeps the earlier estimate then.
 void Evaluate(Dimension& model);
 
 }  // namespace tavimor

@@ -1,6 +1,10 @@
 #include "engine/polynomial.h"
 
+#include <algorithm>
 #include <cmath>
+#include <span>
+
+#include "runtime/checked_arithmetic.h"
 
 namespace tavimor {
 
@@ -42,15 +46,27 @@ class Levels {
   const PerVariable<double>& t_;
 };
 
+bool areFinite(std::span<const double> numbers) {
+  return std::all_of(numbers.begin(), numbers.end(), [](double number) { return std::isfinite(number); });
+}
+
 }  // namespace
 
 double valueAt(const Table4& Coef, const PerVariable<bool>& TrigFlag, const PerVariable<double>& t) {
-  return Levels(Coef, TrigFlag, t).sum(kMaxVariables - 1, 0);
+  const double value = Levels(Coef, TrigFlag, t).sum(kMaxVariables - 1, 0);
+  if (std::isfinite(value)) return value;
+  const bool beganInRange = areFinite({Coef.data(), Coef.size()}) && areFinite(t);
+  return beganInRange ? inRange(value) : value;
+}
+
+double offsetFrom(double centre, double x) {
+  const double t = x - centre;
+  return std::isfinite(x) && std::isfinite(centre) ? inRange(t) : t;
 }
 
 PerVariable<double> offsetsFrom(const PerVariable<double>& Centre, const PerVariable<double>& x) {
   PerVariable<double> t{};
-  for (int k = 0; k < kMaxVariables; ++k) t[k] = x[k] - Centre[k];
+  for (int k = 0; k < kMaxVariables; ++k) t[k] = offsetFrom(Centre[k], x[k]);
   return t;
 }
 

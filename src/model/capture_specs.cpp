@@ -1,6 +1,7 @@
 #include "model/capture_specs.h"
 
 #include "model/value_lists.h"
+#include "runtime/checked_arithmetic.h"
 #include "runtime/run_time_error.h"
 #include "runtime/val.h"
 
@@ -21,7 +22,7 @@ void captureFields(Problem& problem, const SpecFields& fields, Long k) {
 
 double spacing(const Problem& problem, Long k) {
   if (problem.LastPoint[k] == 0) throw RunTimeError(ErrorNumber::DivisionByZero);
-  return (problem.UpperLimit[k] - problem.LowerLimit[k]) / problem.LastPoint[k];
+  return inRange((problem.UpperLimit[k] - problem.LowerLimit[k]) / problem.LastPoint[k]);
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 #include "model/spec_fields.h"
 
+#include "runtime/checked_arithmetic.h"
 #include "runtime/number_text.h"
 #include "runtime/val.h"
 
@@ -16,7 +17,7 @@ void SetDisplayedSpecs(const Problem& problem, AllSpecFields& fields) {
 }
 
 double centreFromText(const std::string& text, double lowerLimit, double upperLimit) {
-  return text == "*" ? (upperLimit + lowerLimit) / 2 : Val(text);
+  return text == "*" ? inRange((upperLimit + lowerLimit) / 2) : Val(text);
 }
 
 }  // namespace tavimor

@@ -25,6 +25,7 @@ using AllSpecFields = PerVariable<SpecFields>;
 void SetDisplayedSpecs(const Problem& problem, AllSpecFields& fields);
 
 /// The centre that a text gives for an interval: the middle for exactly "*", else the text's Val.
+/// Errors: Overflow for a middle beyond the range of a double.
 double centreFromText(const std::string& text, double lowerLimit, double upperLimit);
 
 }  // namespace tavimor

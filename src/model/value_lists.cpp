@@ -4,6 +4,7 @@
 #include <new>
 
 #include "platform/memory.h"
+#include "runtime/checked_arithmetic.h"
 #include "runtime/run_time_error.h"
 
 namespace tavimor {
@@ -48,7 +49,7 @@ void ResizeVarValues(Problem& problem, Long v) {
 void generateSpacedValues(Problem& problem, Long v) {
   ResizeVarValues(problem, v);
   for (Long i = 0; i <= problem.LastPoint[v]; ++i)
-    valueOf(problem, v, i) = problem.LowerLimit[v] + static_cast<double>(i) * problem.Step[v];
+    valueOf(problem, v, i) = inRange(problem.LowerLimit[v] + static_cast<double>(i) * problem.Step[v]);
 }
 
 void giveDefaultValues(Problem& problem, Long v) {

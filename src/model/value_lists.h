@@ -19,6 +19,7 @@ double valueOf(const Problem& problem, Long v, Long i);
 void ResizeVarValues(Problem& problem, Long v);
 
 /// Sets the values of variable v to LowerLimit[v] + i * Step[v], i = 0..LastPoint[v].
+/// Errors: Overflow for a value beyond the range of a double.
 void generateSpacedValues(Problem& problem, Long v);
 
 /// Generates the values of variable v the first time that they are needed, and marks them given.

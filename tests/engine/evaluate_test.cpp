@@ -5,6 +5,8 @@
 #include <cmath>
 #include <limits>
 
+#include "engine/polynomial.h"
+#include "support/expect_error.h"
 #include "support/problem.h"
 
 namespace tavimor {
@@ -106,9 +108,30 @@ TEST(Evaluate, LeavesTheCountersWhereItsLoopsEnd) {
   EXPECT_EQ(model.I1, 2);
 }
 
-TEST(Evaluate, GoesOnToInfinity) {
+TEST(Evaluate, AnEstimateBeyondTheRangeOverflowsAndLeavesTheEarlierOne) {
   Dimension model = fitted({{"x", {0, 1, 2}, 2, 0}});
-  EXPECT_EQ(estimateAt(model, {1e200, 0, 0, 0}), std::numeric_limits<double>::infinity());
+  EXPECT_EQ(estimateAt(model, {4, 0, 0, 0}), 57.0);
+  test::expectError(ErrorNumber::Overflow, [&] { estimateAt(model, {1e200, 0, 0, 0}); });
+  EXPECT_EQ(model.S3, 57.0);
+}
+
+TEST(Evaluate, AnEstimateOverflowsInTheLastSumToo) {
+  Dimension model = fitted({{"x", {0, 1}, 1, 0}});
+  model.Coef(0, 0, 0, 0) = model.Coef(1, 0, 0, 0) = 1.5e308;
+  test::expectError(ErrorNumber::Overflow, [&] { estimateAt(model, {1, 0, 0, 0}); });
+  EXPECT_EQ(estimateAt(model, {-1, 0, 0, 0}), 0.0);
+}
+
+TEST(Evaluate, AnInfiniteCoefficientGoesThrough) {
+  Dimension model = fitted({{"x", {0, 1}, 1, 0}});
+  model.Coef(0, 0, 0, 0) = std::numeric_limits<double>::infinity();
+  EXPECT_EQ(estimateAt(model, {1, 0, 0, 0}), std::numeric_limits<double>::infinity());
+}
+
+TEST(Evaluate, AnOffsetBeyondTheRangeOverflows) {
+  EXPECT_EQ(offsetFrom(-1e308, 0.5e308), 1.5e308);
+  test::expectError(ErrorNumber::Overflow, [] { offsetFrom(-1e308, 1e308); });
+  test::expectError(ErrorNumber::Overflow, [] { offsetsFrom({0, -1e308, 0, 0}, {0, 1e308, 0, 0}); });
 }
 
 }  // namespace

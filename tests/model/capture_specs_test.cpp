@@ -133,6 +133,26 @@ TEST_F(CaptureSpecsTest, ASingleValueOfASecondVariableHasNoStepEither) {
   EXPECT_EQ(errorOfCapture(), ErrorNumber::DivisionByZero);
 }
 
+TEST_F(CaptureSpecsTest, AStepBeyondTheRangeOverflows) {
+  fields[0].txtLL = "-1E308";
+  fields[0].txtUL = "1E308";
+  EXPECT_EQ(errorOfCapture(), ErrorNumber::Overflow);
+}
+
+TEST_F(CaptureSpecsTest, AMiddleBeyondTheRangeOverflows) {
+  fields[0].txtLL = "1E308";
+  fields[0].txtUL = "1.5E308";
+  CaptureSpecs(model, fields);
+  fields[0].txtExpansion = "*";
+  EXPECT_EQ(errorOfCapture(), ErrorNumber::Overflow);
+}
+
+TEST_F(CaptureSpecsTest, AnEquallySpacedValueBeyondTheRangeOverflows) {
+  CaptureSpecs(model, fields);
+  model.Step[1] = 1e308;
+  EXPECT_THROW(RegenerateSpacedValues(model, spacedMarks(fields)), RunTimeError);
+}
+
 TEST_F(CaptureSpecsTest, OnlyTickedVariablesGetEquallySpacedValues) {
   CaptureSpecs(model, fields);
   EXPECT_EQ(model.X0, (std::vector<double>{0, 1, 2, 3, 4}));

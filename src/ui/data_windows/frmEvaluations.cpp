@@ -1,6 +1,7 @@
 #include "ui/data_windows/frmEvaluations.h"
 
 #include "engine/Compute.h"
+#include "engine/polynomial.h"
 #include "runtime/number_text.h"
 #include "runtime/run_time_error.h"
 #include "runtime/val.h"
@@ -43,7 +44,7 @@ void frmEvaluations::cmdCompute_Click() {
 void frmEvaluations::evaluatePoint() {
   for (Long k = 0; k <= model_.LastVar; ++k) {
     model_.x[k] = Val(txtVarx[k]->text().toStdString());
-    model_.t[k] = model_.x[k] - model_.Centre[k];
+    model_.t[k] = offsetFrom(model_.Centre[k], model_.x[k]);
     script_.ExecuteStatement(model_.VarName[k] + "=" + numberText(model_.x[k]));
   }
   Evaluate(model_);
