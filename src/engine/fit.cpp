@@ -7,6 +7,7 @@
 #include <utility>
 #include <vector>
 
+#include "engine/called_off.h"
 #include "engine/fit_on_grid.h"
 #include "engine/right_hand_side.h"
 #include "engine/solver.h"
@@ -49,24 +50,32 @@ std::vector<std::future<Gram>> normalMatrices(const Problem& problem, const FitO
 }
 
 // The first variable whose system is singular; nothing where Coef has become the solution.
-std::optional<Long> solve(std::vector<std::future<Gram>> matrices, Table4& Coef) {
+std::optional<Long> solve(std::vector<std::future<Gram>> matrices, const FitOptions& options, Table4& Coef) {
   for (std::size_t k = 0; k < matrices.size(); ++k) {
     Gram gram = matrices[k].get();
-    if (solveAlong(static_cast<Long>(k), gram, Coef) == Solution::Singular) return static_cast<Long>(k);
+    if (solveAlong(static_cast<Long>(k), gram, Coef, options) == Solution::Singular) return static_cast<Long>(k);
   }
   return std::nullopt;
 }
 
+// A few bytes of a file can ask for a degree that has no room, and for hours of elimination to tell whether its system
+// is singular too: that is refused at once.
+void requireShortWork(const Problem& problem) {
+  constexpr Long mostDegree = 1023;
+  for (const Long degree : problem.Degree)
+    if (degree > mostDegree) throw RunTimeError(ErrorNumber::OutOfMemory);
+}
+
 // The first variable whose system is singular, found on a single line: no larger table is needed to tell.
 std::optional<Long> singularVariable(const Problem& problem, const FitOptions& options) {
+  requireShortWork(problem);
   for (Long k = 0; k <= problem.LastVar; ++k) {
-    Gram gram =
-        normalMatrix(problem, k, options);  // first: it refuses a degree for which a line alone fills the memory
     PerVariable<Long> line{};
     line[k] = problem.Degree[k];
     Table4 Coef;
     Coef.redim(line);
-    if (solveAlong(k, gram, Coef) == Solution::Singular) return k;
+    Gram gram = normalMatrix(problem, k, options);
+    if (solveAlong(k, gram, Coef, options) == Solution::Singular) return k;
   }
   return std::nullopt;
 }
@@ -85,7 +94,7 @@ void fitInto(const Problem& problem, const FitOptions& options, FitOutcome& outc
   Fit& fit = outcome.fit;
   std::vector<std::future<Gram>> matrices = normalMatrices(problem, options);
   fit.Coef = rightHandSide(problem, options);
-  if (const auto singular = solve(std::move(matrices), fit.Coef)) {
+  if (const auto singular = solve(std::move(matrices), options, fit.Coef)) {
     outcome.end = FitEnd::Singular;
     outcome.variable = *singular;
     return;
@@ -114,6 +123,8 @@ FitOutcome fit(const Problem& problem, const FitOptions& options, const Statisti
     endWithError(error.number(), outcome);
   } catch (const std::bad_alloc&) {
     endWithError(ErrorNumber::OutOfMemory, outcome);
+  } catch (const CalledOff&) {
+    outcome.end = FitEnd::CalledOff;
   }
   return outcome;
 }

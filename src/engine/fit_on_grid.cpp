@@ -1,7 +1,9 @@
 #include "engine/fit_on_grid.h"
 
+#include <algorithm>
 #include <vector>
 
+#include "engine/called_off.h"
 #include "engine/lane_sums.h"
 #include "model/grid_indices.h"
 #include "model/value_lists.h"
@@ -27,7 +29,7 @@ void evaluatePlainly(const double* coefficients, std::size_t terms, const Axis& 
 class LineTransform {
  public:
   LineTransform(const Axis& axis, std::size_t stride, std::size_t terms, const FitOptions& options)
-      : axis_(axis), stride_(stride), coefficients_(terms) {
+      : axis_(axis), stride_(stride), options_(options), coefficients_(terms) {
     const LaneSums* lanes = laneSums(options.instructionSet);
     evaluate_ = lanes != nullptr ? lanes->evaluateLine : evaluatePlainly;
     if (stride_ > 1) row_.resize(axis_.count);
@@ -35,13 +37,26 @@ class LineTransform {
 
   void apply(double* line) {
     for (std::size_t a = 0; a < coefficients_.size(); ++a) coefficients_[a] = line[a * stride_];
-    evaluate_(coefficients_.data(), coefficients_.size(), axis_, stride_ > 1 ? row_.data() : line);
+    evaluate(stride_ > 1 ? row_.data() : line);
     for (std::size_t i = 0; i < row_.size(); ++i) line[i * stride_] = row_[i];
   }
 
  private:
+  void evaluate(double* values) const {
+    const std::size_t part =
+        piecesBetweenLooks(static_cast<double>(coefficients_.size()), kFewestPoints, axis_.count + kFewestPoints);
+    for (std::size_t first = 0; first < axis_.count; first += part) {
+      endIfCalledOff(options_);
+      const Axis points{axis_.values + first, std::min(part, axis_.count - first), axis_.centre};
+      evaluate_(coefficients_.data(), coefficients_.size(), points, values + first);
+    }
+  }
+
+  static constexpr std::size_t kFewestPoints = 64;  // fewer at a time do not pay
+
   Axis axis_;
   std::size_t stride_;
+  const FitOptions& options_;
   std::vector<double> coefficients_;
   std::vector<double> row_;
   void (*evaluate_)(const double*, std::size_t, const Axis&, double*);

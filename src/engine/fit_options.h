@@ -16,6 +16,7 @@ struct FitOptions {
   int threads = 0;  // 0: as many as pay
   InstructionSet instructionSet = widestInstructionSet();
   std::function<void(double)> progress;  // told the share of the work that is done, 0..1
+  std::function<bool()> isCalledOff;     // asked now and then, from any thread of the fit: true ends it without result
 };
 
 }  // namespace tavimor

@@ -1,5 +1,8 @@
 #include "engine/gram.h"
 
+#include <algorithm>
+
+#include "engine/called_off.h"
 #include "engine/lane_sums.h"
 #include "runtime/run_time_error.h"
 
@@ -7,16 +10,19 @@ namespace tavimor {
 
 namespace {
 
+constexpr std::size_t kFewestPoints = 64;  // fewer at a time do not pay
+
 std::size_t matrixSize(Long degree) {
   if (degree < 0) throw RunTimeError(ErrorNumber::SubscriptOutOfRange);
-  if (degree > Gram::kLargestDegree) throw RunTimeError(ErrorNumber::OutOfMemory);
   const std::size_t rows = static_cast<std::size_t>(degree) + 1;
+  if (rows > std::vector<double>().max_size() / rows) throw RunTimeError(ErrorNumber::OutOfMemory);
   return rows * rows;
 }
 
 // The loops that define the sums; the lanes give the same bits.
-void addPlainly(const Axis& axis, Gram& gram) {
+void addPlainly(const Axis& axis, const FitOptions& options, Gram& gram) {
   for (std::size_t i = 0; i < axis.count; ++i) {
+    endIfCalledOff(options);
     const double d = axis.values[i] - axis.centre;
     double p = 1.0;
     for (Long a = 0; a <= gram.degree(); ++a) {
@@ -40,9 +46,15 @@ Gram normalMatrix(const Problem& problem, Long k, const FitOptions& options) {
   if (const LaneSums* lanes = laneSums(options.instructionSet)) {
     const std::size_t terms = static_cast<std::size_t>(gram.degree()) + 1;
     std::vector<double> sums(lanes->normalSumCount(terms));
-    lanes->normalMatrix(axis, terms, sums.data(), gram.data());
+    const double workOfPoint = static_cast<double>(terms) * static_cast<double>(terms);
+    const std::size_t part = piecesBetweenLooks(workOfPoint, kFewestPoints, axis.count + kFewestPoints);
+    for (std::size_t first = 0; first < axis.count; first += part) {
+      endIfCalledOff(options);
+      const Axis points{axis.values + first, std::min(part, axis.count - first), axis.centre};
+      lanes->normalMatrix(points, terms, sums.data(), gram.data());
+    }
   } else {
-    addPlainly(axis, gram);
+    addPlainly(axis, options, gram);
   }
   for (Long a = 0; a <= gram.degree(); ++a)
     for (Long b = 0; b < a; ++b) gram(a, b) = gram(b, a);

@@ -8,20 +8,21 @@
 namespace tavimor {
 
 /// The normal matrix of one variable: degree + 1 rows and columns.
-/// Errors: OutOfMemory above kLargestDegree. From there on the sums of powers are 0 or infinite for any deviation that
-/// is not close to 1, and a few bytes of a file could ask for hours of elimination.
+/// Errors: SubscriptOutOfRange for a degree below 0, OutOfMemory.
 class Gram {
  public:
-  static constexpr Long kLargestDegree = 1023;
-
   explicit Gram(Long degree);
 
   Long degree() const { return degree_; }
-  double& operator()(Long row, Long column) { return elements_[row * (degree_ + 1) + column]; }
+  double& operator()(Long row, Long column) { return elements_[place(row, column)]; }
   double* data() { return elements_.data(); }
-  double operator()(Long row, Long column) const { return elements_[row * (degree_ + 1) + column]; }
+  double operator()(Long row, Long column) const { return elements_[place(row, column)]; }
 
  private:
+  std::size_t place(Long row, Long column) const {
+    return static_cast<std::size_t>(row) * (static_cast<std::size_t>(degree_) + 1) + static_cast<std::size_t>(column);
+  }
+
   Long degree_;
   std::vector<double> elements_;
 };

@@ -46,7 +46,8 @@ struct LaneSums {
   void (*collect)(const TermGrid& grid, Columns columns, const double* sums, double* rightHandSide);
 
   /// Sets the elements on and above the diagonal of the normal matrix of an axis: matrix(a,b), `terms` rows of `terms`
-  /// elements. `sums` is zero and holds normalSumCount(terms) elements.
+  /// elements. `sums` holds normalSumCount(terms) elements, zero before the first call: further calls with the same
+  /// sums go on with further values of the axis.
   void (*normalMatrix)(const Axis& axis, std::size_t terms, double* sums, double* matrix);
   std::size_t (*normalSumCount)(std::size_t terms);
 

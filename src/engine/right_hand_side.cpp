@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <vector>
 
+#include "engine/called_off.h"
 #include "engine/lane_sums.h"
 #include "engine/parallel.h"
 #include "runtime/run_time_error.h"
@@ -13,7 +14,7 @@ namespace {
 
 using Axes = PerVariable<Axis>;
 
-constexpr std::size_t kPointsPerStrip = 8192;  // between two calls of the progress function
+constexpr std::size_t kMostPointsPerStrip = 8192;  // between two calls of the progress function
 
 // The loops that define the sums; the lanes give the same bits.
 void addPoint(Table4& coef, const PerVariable<double>& d, double f) {
@@ -38,7 +39,7 @@ void addPoint(Table4& coef, const PerVariable<double>& d, double f) {
   }
 }
 
-void accumulatePlainly(const Table4& f, const Axes& axis, Table4& coef) {
+void accumulatePlainly(const Table4& f, const Axes& axis, Table4& coef, const FitOptions& options) {
   const double* value = f.data();
   PerVariable<double> d{};
   const auto deviation = [&](int k, std::size_t i) { d[k] = axis[k].values[i] - axis[k].centre; };
@@ -48,6 +49,7 @@ void accumulatePlainly(const Table4& f, const Axes& axis, Table4& coef) {
       deviation(2, i2);
       for (std::size_t i1 = 0; i1 < axis[1].count; ++i1) {
         deviation(1, i1);
+        endIfCalledOff(options);
         for (std::size_t i0 = 0; i0 < axis[0].count; ++i0) {
           deviation(0, i0);
           addPoint(coef, d, *value++);
@@ -67,11 +69,14 @@ TermGrid termGrid(const LaneSums& lanes, const Table4& f, const Axes& axis, cons
 }
 
 void accumulateColumns(const LaneSums& lanes, const TermGrid& grid, Columns columns, std::size_t points, double* coef,
-                       const std::function<void(double)>& progress) {
+                       const FitOptions& options) {
   std::vector<double> sums(lanes.sumCount(grid, columns));
-  for (std::size_t first = 0; first < points; first += kPointsPerStrip) {
-    lanes.addPoints(grid, columns, first, std::min(first + kPointsPerStrip, points), sums.data());
-    if (progress) progress(static_cast<double>(first) / static_cast<double>(points));
+  const std::size_t strip = piecesBetweenLooks(static_cast<double>(sums.size()), 1, kMostPointsPerStrip);
+  for (std::size_t first = 0; first < points; first += strip) {
+    endIfCalledOff(options);
+    lanes.addPoints(grid, columns, first, std::min(first + strip, points), sums.data());
+    if (columns.first == 0 && options.progress)
+      options.progress(static_cast<double>(first) / static_cast<double>(points));
   }
   lanes.collect(grid, columns, sums.data(), coef);
 }
@@ -84,7 +89,7 @@ void accumulateInLanes(const LaneSums& lanes, const Table4& f, const Axes& axis,
   const double work = static_cast<double>(f.size()) * static_cast<double>(coef.size());
   inParallel(groups, work / static_cast<double>(groups), options.threads, [&](std::size_t first, std::size_t end) {
     accumulateColumns(lanes, grid, {first * lanes.lanes, std::min(end * lanes.lanes, columns)}, f.size(), coef.data(),
-                      first == 0 ? options.progress : std::function<void(double)>());
+                      options);
   });
 }
 
@@ -98,7 +103,7 @@ Table4 rightHandSide(const Problem& problem, const FitOptions& options) {
   if (const LaneSums* lanes = laneSums(options.instructionSet))
     accumulateInLanes(*lanes, problem.F, axis, sums, options);
   else
-    accumulatePlainly(problem.F, axis, sums);
+    accumulatePlainly(problem.F, axis, sums, options);
   return sums;
 }
 

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "engine/called_off.h"
+
 namespace tavimor {
 
 namespace {
@@ -48,12 +50,15 @@ void subtractRow(Gram& gram, const Slices& coef, Long r, Long column) {
   }
 }
 
-void eliminate(Gram& gram, const Slices& coef) {
+void eliminate(Gram& gram, const Slices& coef, const FitOptions& options) {
   for (Long column = 0; column < gram.degree(); ++column) {
     const Long pivot = pivotRow(gram, column);
     if (pivot < 0) continue;  // back substitution meets the zero on the diagonal
     if (pivot != column) exchangeRows(gram, coef, column, pivot);
-    for (Long r = column + 1; r <= gram.degree(); ++r) subtractRow(gram, coef, r, column);
+    for (Long r = column + 1; r <= gram.degree(); ++r) {
+      endIfCalledOff(options);
+      subtractRow(gram, coef, r, column);
+    }
   }
 }
 
@@ -69,11 +74,12 @@ void substituteRow(const Gram& gram, const Slices& coef, Long r) {
 
 }  // namespace
 
-Solution solveAlong(Long k, Gram& gram, Table4& coef) {
+Solution solveAlong(Long k, Gram& gram, Table4& coef, const FitOptions& options) {
   const Slices slices(coef, k);
-  eliminate(gram, slices);
+  eliminate(gram, slices, options);
   for (Long r = gram.degree(); r >= 0; --r) {
     if (gram(r, r) == 0.0) return Solution::Singular;
+    endIfCalledOff(options);
     substituteRow(gram, slices, r);
   }
   return Solution::Found;

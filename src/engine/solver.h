@@ -14,6 +14,6 @@ enum class Solution { Found, Singular };
 /// is left in whatever state it has reached.
 /// `gram` ends upper triangular; what stands below the diagonal is never read again.
 /// Source: Golub & Van Loan, Matrix Computations, 4th ed., sections 3.2 and 3.4.
-Solution solveAlong(Long k, Gram& gram, Table4& coef);
+Solution solveAlong(Long k, Gram& gram, Table4& coef, const FitOptions& options = {});
 
 }  // namespace tavimor
