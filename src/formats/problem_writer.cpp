@@ -1,6 +1,7 @@
 #include "formats/problem_writer.h"
 
 #include "formats/file_pair.h"
+#include "formats/foreign_file.h"
 #include "model/grid_indices.h"
 #include "model/value_lists.h"
 
@@ -60,6 +61,7 @@ void writeValues(const Problem& problem, const Fit& fit, OutputFile& file, Count
 
 void writeProblem(const Problem& problem, const Fit& fit, const std::string& path, FileSteps& steps,
                   const Progress& progress) {
+  requireSameHalves(path);
   FilePair pair(path, steps);
   Count count(problem, fit, progress);
   writeSpecification(problem, fit, pair.specification(), count);

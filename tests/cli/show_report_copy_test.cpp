@@ -106,6 +106,18 @@ TEST_F(CopyCommand, SavesTheSameBytes) {
   EXPECT_EQ(readBytes(folder / "copied.dat"), readBytes(examplePath("offset-print.dat")));
 }
 
+TEST_F(CopyCommand, NeverReplacesAFileThatIsNotTheSameHalfOfAProblem) {
+  const std::string problem = writePair("problem", fileText({" 0 ", R"("x",0,1,0,#TRUE#,0,1)", "#FALSE#"}),
+                                        fileText({" 0 ", " 1 ", "#TRUE#", " 0 ", " 1 ", " 5 ", " 6 "}));
+  const std::string values = readBytes(problem + ".dat");
+  const Outcome outcome = tavimorCli({"copy", problem, problem + ".dat"});
+  EXPECT_EQ(outcome.exitCode, 1);
+  EXPECT_EQ(outcome.err, "tavimor-cli: " + problem +
+                             ".dat: Not saved: the file is there already and is not the specification of a problem\n");
+  EXPECT_EQ(tavimorCli({"fit", problem, "-o", problem + ".dat"}).exitCode, 1);
+  EXPECT_EQ(readBytes(problem + ".dat"), values);
+}
+
 TEST_F(CopyCommand, ComputesNothing) {
   const std::string problem = singular();
   EXPECT_EQ(tavimorCli({"copy", problem, folder / "copied"}).exitCode, 0);

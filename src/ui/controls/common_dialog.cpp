@@ -5,6 +5,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 
+#include "formats/foreign_file.h"
 #include "formats/pair_paths.h"
 #include "runtime/text.h"
 #include "ui/controls/help/help_file.h"
@@ -34,6 +35,17 @@ DialogEnd show(QFileDialog& dialog, std::string& fileName) {
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return DialogEnd::Cancelled;
   fileName = dialog.selectedFiles().constFirst().toStdString();
   return DialogEnd::Confirmed;
+}
+
+// A file of another kind is never replaced: the user is told why another name is needed.
+bool isOwnOrNew(const std::string& path) {
+  try {
+    requireSameHalves(path);
+    return true;
+  } catch (const Failure& failure) {
+    showWarning(QString::fromStdString(failure.report() + "\n" + failure.path()));
+    return false;
+  }
 }
 
 }  // namespace
@@ -69,6 +81,7 @@ void CommonDialog::ShowHelp(const std::string& page) const {
 DialogEnd CommonDialog::ShowPrinter(QPrinter& printer) const { return choosePrinter(printer); }
 
 bool mayReplacePair(const std::string& path) {
+  if (!isOwnOrNew(path)) return false;
   const QString existing = existingFiles(path);
   return existing.isEmpty() ||
          ask(QStringLiteral("The problem exists already:\n\n%1\n\nDo you want to replace it?").arg(existing)) ==
