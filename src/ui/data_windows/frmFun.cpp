@@ -31,6 +31,9 @@ QString text(Number number) {
   return QString::fromStdString(numberText(number));
 }
 
+// Whether the user may be typing: "" or "-" on the way to "-1", "1." to "1.5".
+bool mayGoOn(const TextBox& box) { return box.text().isEmpty() || QStringLiteral(".+-eE").contains(box.text().back()); }
+
 }  // namespace
 
 frmFun::frmFun(Dimension& model)
@@ -140,28 +143,30 @@ bool frmFun::isIndexOf(Long k, const TextBox& box) const {
   return index >= 0.0 && index <= model_.LastPoint[k];
 }
 
-// A box that says the index already is left alone: the user may be typing in it, "" or "-" on the way to "3" or "-1".
-bool frmFun::says(const TextBox& box, Long k, Long index) const {
-  return isIndexOf(k, box) && wholeNumber(box) == index;
-}
-
 void frmFun::txtFun_Change() {
   if (handlersRest()) return;
   storeFunctionValue();
 }
 
-void frmFun::txtFunIndex_Change(Long k) {
-  if (handlersRest() || !isIndexOf(k, *txtFunIndex[k])) return;
-  if (!says(*txtVarIndex[k], k, wholeNumber(*txtFunIndex[k]))) txtVarIndex[k]->setText(txtFunIndex[k]->text());
-}
+void frmFun::txtFunIndex_Change(Long k) { takeIndex(k, *txtFunIndex[k]); }
 
-void frmFun::txtVarIndex_Change(Long k) {
-  if (handlersRest() || !isIndexOf(k, *txtVarIndex[k])) return;
-  model_.StartIdx[k] = wholeNumber(*txtVarIndex[k]);
+void frmFun::txtVarIndex_Change(Long k) { takeIndex(k, *txtVarIndex[k]); }
+
+// Both boxes show the whole number that was taken; the one that is typed in once the user cannot be on the way to
+// another number any more.
+void frmFun::takeIndex(Long k, const TextBox& typed) {
+  if (handlersRest() || !isIndexOf(k, typed)) return;
+  const Long index = model_.StartIdx[k] = wholeNumber(typed);
+  for (TextBox* box : {txtFunIndex[k], txtVarIndex[k]})
+    if (box != &typed || !mayGoOn(typed)) showIndex(*box, index);
   showVariableValue(k);
-  if (!says(*txtFunIndex[k], k, model_.StartIdx[k])) txtFunIndex[k]->setText(text(model_.StartIdx[k]));
   readIndices();
   showFunctionValue();
+}
+
+void frmFun::showIndex(TextBox& box, Long index) {
+  const Rewriting rewriting(model_);
+  if (box.text() != text(index)) box.setText(text(index));  // the same text anew would move the caret
 }
 
 void frmFun::txtVar_Change(Long k) {
@@ -170,9 +175,15 @@ void frmFun::txtVar_Change(Long k) {
   valueOf(model_, k, wholeNumber(*txtVarIndex[k])) = model_.VarX;
 }
 
-void frmFun::txtFunIndex_Validate(Long k, bool& cancel) const { cancel = !isIndexOf(k, *txtFunIndex[k]); }
+void frmFun::txtFunIndex_Validate(Long k, bool& cancel) { cancel = !mayLeave(k, *txtFunIndex[k]); }
 
-void frmFun::txtVarIndex_Validate(Long k, bool& cancel) const { cancel = !isIndexOf(k, *txtVarIndex[k]); }
+void frmFun::txtVarIndex_Validate(Long k, bool& cancel) { cancel = !mayLeave(k, *txtVarIndex[k]); }
+
+bool frmFun::mayLeave(Long k, TextBox& box) {
+  const bool isIndex = isIndexOf(k, box);
+  if (isIndex) showIndex(box, wholeNumber(box));
+  return isIndex;
+}
 
 void frmFun::cmdExit_Click() { unload(); }
 

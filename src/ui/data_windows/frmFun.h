@@ -32,8 +32,10 @@ class frmFun : public Form, private FunControls {
   void readIndices();
   void storeFunctionValue();
   bool isIndexOf(Long k, const TextBox& box) const;
-  bool says(const TextBox& box, Long k, Long index) const;
   bool handlersRest() const;
+  void takeIndex(Long k, const TextBox& typed);
+  void showIndex(TextBox& box, Long index);
+  bool mayLeave(Long k, TextBox& box);
 
   void cmdIncFunIndex_Click();
   void cmdDecFunIndex_Click();
@@ -44,8 +46,8 @@ class frmFun : public Form, private FunControls {
   void txtFunIndex_Change(Long k);
   void txtVarIndex_Change(Long k);
   void txtVar_Change(Long k);
-  void txtFunIndex_Validate(Long k, bool& cancel) const;
-  void txtVarIndex_Validate(Long k, bool& cancel) const;
+  void txtFunIndex_Validate(Long k, bool& cancel);
+  void txtVarIndex_Validate(Long k, bool& cancel);
   void cmdExit_Click();
 
   Dimension& model_;

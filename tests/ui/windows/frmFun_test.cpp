@@ -285,6 +285,28 @@ TEST_F(FunctionWindow, AFractionalIndexIsRoundedHalvesToEven) {
   expectAllBoxesShow({4, 1});
 }
 
+TEST_F(FunctionWindow, AnIndexIsWrittenBackAsTheWholeNumberThatWasTaken) {
+  open({5, 2});
+  for (const char* name : {"txtFunIndex(0)", "txtVarIndex(0)"}) {
+    type(name, "03");
+    expectAllBoxesShow({3, 0});
+    type(name, "1.5");
+    expectAllBoxesShow({2, 0});
+    type(name, "3.x");
+    expectAllBoxesShow({3, 0});
+  }
+}
+
+TEST_F(FunctionWindow, AnIndexThatIsNotTypedToItsEndIsWrittenBackWhenItsBoxIsLeft) {
+  open({5, 2}, {3, 0});
+  for (const char* name : {"txtFunIndex(0)", "txtVarIndex(0)"}) {
+    type(name, "2.");
+    EXPECT_EQ(text(name), "2.");
+    QTest::keyClick(find(name), Qt::Key_Tab);
+    expectAllBoxesShow({2, 0});
+  }
+}
+
 TEST_F(FunctionWindow, AVariablesValueIsChangedForEveryPointThatUsesIt) {
   open({3, 2}, {1, 0});
   type("txtVar(0)", "9.75xyz");
