@@ -16,9 +16,7 @@ constexpr int kMargin = 20;
 constexpr int kIndent = 28;
 constexpr int kCharactersPerLine = 96;
 
-QPalette blackOnWhite(QPalette palette) {
-  palette.setColor(QPalette::Base, Qt::white);
-  palette.setColor(QPalette::Text, Qt::black);
+QPalette withSteadyMarks(QPalette palette) {
   // A place that was found stays marked in full colour while the search field has the focus.
   palette.setColor(QPalette::Inactive, QPalette::Highlight, palette.color(QPalette::Active, QPalette::Highlight));
   palette.setColor(QPalette::Inactive, QPalette::HighlightedText,
@@ -26,17 +24,22 @@ QPalette blackOnWhite(QPalette palette) {
   return palette;
 }
 
+Ground groundOf(const QPalette& palette) {
+  return palette.color(QPalette::Base).lightness() < palette.color(QPalette::Text).lightness() ? Ground::Dark
+                                                                                               : Ground::Light;
+}
+
 }  // namespace
 
 HelpPage::HelpPage(const QString& name) {
   setObjectName(name);
   setAccessibleName(QStringLiteral("Help text"));
-  setPalette(blackOnWhite(palette()));
+  setPalette(withSteadyMarks(palette()));
   setOpenExternalLinks(true);
   setLineWrapMode(FixedPixelWidth);
   document()->setDocumentMargin(kMargin);
   document()->setIndentWidth(kIndent);
-  document()->setDefaultStyleSheet(helpStyleSheet());
+  document()->setDefaultStyleSheet(helpStyleSheet(groundOf(palette())));
   resetZoom();
 }
 
@@ -52,6 +55,15 @@ void HelpPage::moveCaret(int position) {
 }
 
 void HelpPage::resetZoom() { setFont(verdanaFont()); }
+
+std::unique_ptr<QTextDocument> HelpPage::printedDocument() {
+  auto printed = std::make_unique<QTextDocument>();
+  printed->setDefaultFont(document()->defaultFont());
+  printed->setIndentWidth(kIndent);
+  printed->setDefaultStyleSheet(helpStyleSheet(Ground::Light));
+  printed->setHtml(loadResource(QTextDocument::HtmlResource, source()).toString());
+  return printed;
+}
 
 QVariant HelpPage::loadResource(int type, const QUrl& name) {
   QVariant content = QTextBrowser::loadResource(type, name);

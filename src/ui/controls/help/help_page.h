@@ -1,11 +1,12 @@
 #pragma once
 
 #include <QTextBrowser>
+#include <memory>
 
 namespace tavimor {
 
-/// Shows the text of a help file, an HTML document in UTF-8: black on white on every desktop, in lines that are never
-/// longer than one reads with ease. Links lead within the text, or to the web browser.
+/// Shows the text of a help file, an HTML document in UTF-8: in the colours of the desktop, light or dark, in lines
+/// that are never longer than one reads with ease. Links lead within the text, or to the web browser.
 class HelpPage : public QTextBrowser {
   Q_OBJECT
 
@@ -22,6 +23,9 @@ class HelpPage : public QTextBrowser {
   void moveCaret(int position);
 
   void resetZoom();
+
+  /// The text as it goes to paper, in the colours for a light ground.
+  std::unique_ptr<QTextDocument> printedDocument();
 
   QVariant loadResource(int type, const QUrl& name) override;
 

@@ -115,6 +115,6 @@ void HelpViewer::cmdContents_Click() {
   tvwContents->setFocus();
 }
 
-void HelpViewer::cmdPrint_Click() { printHelp(*txtPage->document(), windowTitle()); }
+void HelpViewer::cmdPrint_Click() { printHelp(*txtPage->printedDocument(), windowTitle()); }
 
 }  // namespace tavimor
