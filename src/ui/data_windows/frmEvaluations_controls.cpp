@@ -4,6 +4,7 @@
 #include <QHBoxLayout>
 
 #include "ui/controls/control_array.h"
+#include "ui/controls/elided_label.h"
 #include "ui/controls/fonts.h"
 #include "ui/controls/make_control.h"
 
@@ -24,9 +25,8 @@ void EvaluationsControls::makeControls() {
   fraEval = makeControl<QGroupBox>(QStringLiteral("fraEval"), "Evaluation Point");
   fraEval->setToolTip(QStringLiteral("Enter values for each variable"));
   for (int k = 0; k < kRows; ++k) {
-    lblVarx[k] = makeControl<QLabel>(elementName("lblVarx", k), "x=");
+    lblVarx[k] = makeControl<ElidedLabel>(elementName("lblVarx", k), "x=");
     lblVarx[k]->setFont(verdanaFont());
-    lblVarx[k]->setTextFormat(Qt::PlainText);
     lblVarx[k]->hide();
     txtVarx[k] = new TextBox(elementName("txtVarx", k));
     txtVarx[k]->setFont(verdanaFont());

@@ -3,6 +3,7 @@
 #include <initializer_list>
 
 #include "ui/controls/control_array.h"
+#include "ui/controls/elided_label.h"
 #include "ui/controls/make_control.h"
 
 namespace tavimor {
@@ -71,7 +72,8 @@ void FunControls::makeFunctionCall() {
 }
 
 void FunControls::makeRow(int k) {
-  lblVar[k] = makeLabel(elementName("lblVar", k), "x(");
+  lblVar[k] = makeControl<ElidedLabel>(elementName("lblVar", k), "x(");
+  lblVar[k]->setFont(verdanaFont());
   txtVarIndex[k] = makeIndexBox(elementName("txtVarIndex", k));
   lblClose[k] = makeLabel(elementName("lblClose", k), ")=");
   txtVar[k] = makeBox(elementName("txtVar", k), kValueDigits);

@@ -1,5 +1,7 @@
 #include <QHBoxLayout>
 #include <QMenuBar>
+#include <QScreen>
+#include <QScrollArea>
 #include <QVBoxLayout>
 
 #include "ui/main_window/frmTavimor_controls.h"
@@ -9,6 +11,20 @@ namespace tavimor {
 namespace {
 
 constexpr QSize kInitialSize(640, 600);
+constexpr QSize kFrame(16, 48);  // what a window manager puts around a window, more or less
+
+// On a small screen, or a large scale, what does not fit is scrolled to.
+QWidget* makeScrolledGround(QVBoxLayout& whole) {
+  auto* area = new QScrollArea;
+  area->setFrameShape(QFrame::NoFrame);
+  area->setFocusPolicy(Qt::NoFocus);
+  area->setWidgetResizable(true);
+  auto* ground = new QWidget;
+  area->setWidget(ground);
+  whole.setContentsMargins({});
+  whole.addWidget(area);
+  return ground;
+}
 
 void addStretched(QBoxLayout& layout, QWidget* widget) { layout.addWidget(widget, 1); }
 
@@ -24,10 +40,11 @@ MainControls::MainControls(QWidget& window) {
   middle->addLayout(buttonsLayout());
   auto* whole = new QVBoxLayout(&window);
   whole->setMenuBar(menuBar);
-  whole->addLayout(headingLayout());
-  whole->addLayout(middle);
-  addStretched(*whole, lstCoeff);
-  window.resize(kInitialSize);
+  auto* rows = new QVBoxLayout(makeScrolledGround(*whole));
+  rows->addLayout(headingLayout());
+  rows->addLayout(middle);
+  addStretched(*rows, lstCoeff);
+  window.resize(kInitialSize.boundedTo(window.screen()->availableSize() - kFrame));
 
   addBlock();
   showBlock(blocks.front());

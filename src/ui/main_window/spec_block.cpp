@@ -1,6 +1,7 @@
 #include "ui/main_window/spec_block.h"
 
 #include "ui/controls/control_array.h"
+#include "ui/controls/elided_label.h"
 #include "ui/controls/make_control.h"
 
 namespace tavimor {
@@ -24,8 +25,7 @@ QList<QWidget*> controlsOf(const SpecBlock& block) {
 
 SpecBlock makeSpecBlock(int k) {
   SpecBlock block{};
-  block.lblVar = makeControl<QLabel>(elementName("lblVar", k), "");
-  block.lblVar->setTextFormat(Qt::PlainText);
+  block.lblVar = makeControl<ElidedLabel>(elementName("lblVar", k), "");
   block.txtLL = makeField("txtLL", k, "Lower limit", "0");
   block.txtUL = makeField("txtUL", k, "Upper limit", "1");
   block.txtPoints = makeField("txtPoints", k, "Number of values", "2");

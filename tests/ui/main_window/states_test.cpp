@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <QDir>
+#include <QScreen>
 #include <QTimer>
 
 #include "ui/support/main_window_test.h"
@@ -43,6 +44,26 @@ TEST_F(States, WithTheNamesGivenTheBlocksAreInUse) {
   EXPECT_TRUE(item("mnuAbout").isVisible());
   EXPECT_TRUE(box("txtLL(0)").isEnabled());
   EXPECT_FALSE(button("cmdEvaluations").isEnabled());
+}
+
+// The smallest screens: 1024 x 600, and 1366 x 768 at a scale of 200 %.
+TEST_F(States, TheWindowCanBeMadeAsSmallAsASmallScreen) {
+  declare("4", "x,y,z,t");
+  window->resize(660, 330);
+  EXPECT_EQ(window->size(), QSize(660, 330));
+  const QSize screen = window->screen()->availableSize();
+  EXPECT_LE(window->height(), screen.height());
+  for (int n = 0; n < 6; ++n) press(Qt::Key_Tab);
+  const QWidget& field = *QApplication::focusWidget();
+  EXPECT_FALSE(field.visibleRegion().isEmpty()) << field.objectName().toStdString();
+}
+
+TEST_F(States, ALongNameDoesNotWidenTheWindow) {
+  const int width = window->minimumSizeHint().width();
+  declare("1", QString(300, QLatin1Char('x')));
+  EXPECT_EQ(label("lblVar(0)").text().size(), 300);
+  EXPECT_LT(window->minimumSizeHint().width(), width + 50);
+  EXPECT_LE(window->width(), 660);
 }
 
 TEST_F(States, UnderReviewOfTheFunctionEveryNumberOfValuesIsDisabled) {
