@@ -1,17 +1,20 @@
 #include "ui/controls/error_box.h"
 
+#include <QCloseEvent>
+#include <QKeyEvent>
 #include <QMessageBox>
 #include <QPushButton>
 
 #include "runtime/text.h"
 #include "ui/controls/common_dialog.h"
+#include "ui/controls/form.h"
 #include "ui/controls/message_box.h"
 
 namespace tavimor {
 
 namespace {
 
-using Save = std::function<void(const std::string&)>;
+using SaveProblem = std::function<void(const std::string&)>;
 
 QString failureText(const Failure& failure) {
   const QString text =
@@ -20,18 +23,51 @@ QString failureText(const Failure& failure) {
                                 : text + QStringLiteral("\n") + QString::fromStdString(withEscapes(failure.path()));
 }
 
-bool wantsCopy(const Failure& failure, const Save& save) {
-  QMessageBox box(QMessageBox::Critical, kTitle, failureText(failure));
-  box.setTextFormat(Qt::PlainText);
-  const QPushButton* copy = save ? box.addButton(QStringLiteral("Save a copy..."), QMessageBox::ActionRole) : nullptr;
-  QPushButton* end = box.addButton(QStringLiteral("End"), QMessageBox::RejectRole);
-  box.setDefaultButton(end);
-  box.setEscapeButton(end);
-  box.exec();
-  return copy != nullptr && box.clickedButton() == copy;
+enum class Choice { SaveCopy, End, Dismiss };
+
+// A message box that tells "End" from Escape and the title bar.
+class FailureBox : public QMessageBox {
+ public:
+  FailureBox(const Failure& failure, const SaveProblem& save)
+      : QMessageBox(QMessageBox::Critical, kTitle, failureText(failure)) {
+    setTextFormat(Qt::PlainText);
+    if (save) copy_ = addButton(QStringLiteral("Save a copy..."), QMessageBox::ActionRole);
+    QPushButton* end = addButton(QStringLiteral("End"), QMessageBox::RejectRole);
+    setDefaultButton(save ? copy_ : end);
+    setEscapeButton(end);
+  }
+
+  Choice ask() {
+    exec();
+    if (copy_ == nullptr) return Choice::End;
+    if (clickedButton() == copy_) return Choice::SaveCopy;
+    return isDismissed_ ? Choice::Dismiss : Choice::End;
+  }
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override {
+    if (event->matches(QKeySequence::Cancel)) isDismissed_ = true;
+    QMessageBox::keyPressEvent(event);
+  }
+
+  void closeEvent(QCloseEvent* event) override {
+    isDismissed_ = true;
+    QMessageBox::closeEvent(event);
+  }
+
+ private:
+  QPushButton* copy_ = nullptr;
+  bool isDismissed_ = false;
+};
+
+// The program may have been asked to end from outside; that also calls the questions off.
+bool isToEnd() {
+  return Form::isAnyEnding() ||
+         ask(QStringLiteral("What you have typed since the last save will be lost.\n\nEnd the program?")) ==
+             Answer::Yes;
 }
 
-bool hasSavedCopy(const Save& save) {
+bool hasSavedCopy(const SaveProblem& save) {
   CommonDialog dialog;
   if (dialog.ShowSave() == DialogEnd::Cancelled) return false;
   try {
@@ -45,9 +81,16 @@ bool hasSavedCopy(const Save& save) {
 
 }  // namespace
 
-void reportFailure(const Failure& failure, const Save& save) {
-  while (wantsCopy(failure, save))
-    if (hasSavedCopy(save)) return;
+void reportFailure(const Failure& failure, const SaveProblem& save) {
+  for (;;) switch (FailureBox(failure, save).ask()) {
+      case Choice::SaveCopy:
+        if (hasSavedCopy(save)) return;
+        break;
+      case Choice::Dismiss:
+        if (isToEnd()) return;
+        break;
+      case Choice::End: return;
+    }
 }
 
 }  // namespace tavimor

@@ -5,6 +5,7 @@
 #include <QThread>
 #include <QTimer>
 #include <QWindow>
+#include <algorithm>
 #include <utility>
 
 namespace tavimor {
@@ -64,6 +65,8 @@ void Form::enable() {
 }
 
 void Form::showAbove(Form& other) {
+  // Window managers keep dialogs above the window that they belong to, and other windows not.
+  setWindowFlags(Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint);
   create();
   windowHandle()->setTransientParent(other.windowHandle());
   show();
@@ -72,6 +75,10 @@ void Form::showAbove(Form& other) {
 }
 
 const QVector<Form*>& Form::openForms() { return forms(); }
+
+bool Form::isAnyEnding() {
+  return std::any_of(forms().begin(), forms().end(), [](const Form* form) { return form->isEnding(); });
+}
 
 void Form::closeEvent(QCloseEvent* event) {
   // Behind a dialog only the end of the session closes a form.

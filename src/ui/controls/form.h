@@ -26,6 +26,7 @@ class Form : public QWidget {
 
   /// True from a request from outside on: what an event procedure still does, the user has not asked for.
   bool isEnding() const { return isEnding_; }
+  static bool isAnyEnding();
 
   /// Shown but refusing keys and clicks, as while another form is worked in; enable() brings the focus back.
   void disable();

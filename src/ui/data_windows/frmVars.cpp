@@ -35,11 +35,12 @@ void frmVars::connectEvents() {
 
 void frmVars::Form_Load() { txtDataEntry->hide(); }
 
-void frmVars::open(Form& above) {
-  MSFlexGridVars->setRow(0);
+void frmVars::open(Form& above, Long row) {
+  MSFlexGridVars->setRow(row);
   txtDataEntry->setText(MSFlexGridVars->Text());
   MSFlexGridVars->setFocus();
   showAbove(above);
+  MSFlexGridVars->scrollToCell();  // a window that was not shown yet has no rows in view
 }
 
 void frmVars::MSFlexGridVars_Click() { placeEntry(); }

@@ -15,8 +15,8 @@ class frmVars : public Form, public VarsControls {
  public:
   explicit frmVars(Dimension& model);
 
-  /// Shows the window above another one, with the first value as the current one.
-  void open(Form& above);
+  /// Shows the window above another one, with the value of this row as the current one.
+  void open(Form& above, Long row);
 
  signals:
   /// A value of variable v was deleted: it has one less, and the function belongs to another grid.

@@ -46,6 +46,10 @@ class frmTavimor : public Form, private MainControls {
   /// Opens a problem as the Open command does once a file is chosen.
   void openFile(const std::string& path);
 
+  /// Writes what the fields show, as far as they can be read, and all values; for when the program has failed and is
+  /// about to end. Errors: a Failure.
+  void saveCopy(const std::string& path);
+
   ScriptHost ScriptControl1;
   Printer printer;  // one for the whole run: the next report begins with the printer and the paper of the last one
   Long ierr = 0;    // the last run-time error that a function of the script object met
@@ -98,7 +102,7 @@ class frmTavimor : public Form, private MainControls {
   void cmdEditVars_Click(Long Index);
   void cmdAddVars_Click(Long Index);
   void cmdEditFun_Click();
-  void EditVarValues(Long v);
+  void EditVarValues(Long v, Long first);
   void numberOfValuesChanged(Long v);
   void doubleValuesColumn();
   frmVars& valuesWindow();
@@ -120,7 +124,7 @@ class frmTavimor : public Form, private MainControls {
   QPointer<frmVars> valuesWindow_;
   CommonDialog cdbFile;
   HelpKey helpKey_{[this](const QString& form) { showHelp(form); }};
-  std::string unreadableFile_;  // a file of the user's that could not be opened: never replaced unasked
+  std::string refusedFile_;  // a file of the user's that could not be opened or replaced: never replaced unasked
 };
 
 }  // namespace tavimor

@@ -14,7 +14,7 @@ void frmTavimor::cmdEditVars_Click(Long Index) {
   blocks.at(Index).chkSpaced->setChecked(false);
   model_.V = Index;
   giveValuesAndFixTheirNumber(Index);
-  EditVarValues(Index);
+  EditVarValues(Index, 0);
 }
 
 void frmTavimor::cmdAddVars_Click(Long Index) {
@@ -27,10 +27,11 @@ void frmTavimor::cmdAddVars_Click(Long Index) {
   model_.AddCount[Index] = ValLong(model_.InText);
   if (model_.AddCount[Index] == 0) return;
   const bool valuesWereGiven = model_.ValuesGiven[Index];
+  const Long firstAdded = addLongs(model_.LastPoint[Index], 1);
   addValues(model_, Index);  // before anything is seen of it: it may be refused
   if (!valuesWereGiven) blocks.at(Index).txtPoints->setEnabled(false);
   numberOfValuesChanged(Index);
-  EditVarValues(Index);
+  EditVarValues(Index, firstAdded);
 }
 
 void frmTavimor::giveValuesAndFixTheirNumber(Long v) {

@@ -1,7 +1,9 @@
 #include <QStringList>
 #include <utility>
 
+#include "formats/foreign_file.h"
 #include "formats/problem_writer.h"
+#include "model/salvage_specs.h"
 #include "runtime/failure.h"
 #include "runtime/number_text.h"
 #include "runtime/text.h"
@@ -26,10 +28,10 @@ void frmTavimor::mnuOpen_Click() {
 }
 
 void frmTavimor::openFile(const std::string& path) {
-  cdbFile.FileName = unreadableFile_ = path;
+  cdbFile.FileName = refusedFile_ = path;
   try {
     OpenedProblem opened = openProblem(path);
-    unreadableFile_.clear();
+    refusedFile_.clear();
     model_.FileName = path;
     showOpened(std::move(opened));
   } catch (const Failure& failure) {
@@ -41,14 +43,15 @@ void frmTavimor::showOpened(OpenedProblem opened) {
   model_.LoadingFile = true;
   txtOrder->setEnabled(false);
   txtVarNams->setEnabled(false);
-  blocks.at(model_.V).txtPoints->setEnabled(false);
   model_.LastVar = opened.problem.LastVar;
   LoadObjects();
   static_cast<Problem&>(model_) = std::move(opened.problem);
   static_cast<Fit&>(model_) = std::move(opened.fit);
   model_.StartIdx = {};
-  for (Long k = 0; k <= model_.LastVar; ++k)
+  for (Long k = 0; k <= model_.LastVar; ++k) {
+    blocks[k].txtPoints->setEnabled(false);  // the values are there: their number changes by adding and deleting only
     blocks[k].txtExpansion->setText(QString::fromStdString(opened.fields[k].txtExpansion));
+  }
   SetDisplayedSpecs();
   ShowFitIfDone();
   mnuOpen->setEnabled(false);
@@ -99,11 +102,11 @@ void frmTavimor::mnuSaveAs_Click() {
 }
 
 // A dialog that is called off leaves the name of the dialog before it, and the problem is saved there; but never in
-// the place of a file that could not be opened.
+// the place of a file that could not be opened or replaced.
 void frmTavimor::takeSaveName() {
   const bool isCancelled = cdbFile.ShowSave() == DialogEnd::Cancelled;
-  if (isCancelled && !unreadableFile_.empty() && cdbFile.FileName == unreadableFile_) return;
-  unreadableFile_.clear();
+  if (isCancelled && !refusedFile_.empty() && cdbFile.FileName == refusedFile_) return;
+  refusedFile_.clear();
   model_.FileName = cdbFile.FileName;
 }
 
@@ -112,9 +115,20 @@ void frmTavimor::saveIfNamed() {
   if (!isEnding() && !model_.FileName.empty()) SaveProblem();
 }
 
+// A file of another kind stays, and the next Save asks for another name.
 void frmTavimor::SaveProblem() {
   CaptureSpecs();
-  writeProblem(model_, model_, model_.FileName);
+  try {
+    writeProblem(model_, model_, model_.FileName);
+  } catch (const ForeignFile& failure) {
+    refusedFile_ = std::exchange(model_.FileName, {});
+    showWarning(QString::fromStdString(failure.report() + "\n" + failure.path()));
+  }
+}
+
+void frmTavimor::saveCopy(const std::string& path) {
+  salvageSpecs(model_, model_, specFields());
+  writeProblem(model_, model_, path);
 }
 
 }  // namespace tavimor

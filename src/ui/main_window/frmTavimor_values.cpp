@@ -31,11 +31,11 @@ void frmTavimor::doubleValuesColumn() {
   grid.setColWidth(1, 2 * grid.ColWidth(1));
 }
 
-void frmTavimor::EditVarValues(Long v) {
+void frmTavimor::EditVarValues(Long v, Long first) {
   model_.V = v;
   disable();
   PopulateGridVars(v);
-  valuesWindow().open(*this);
+  valuesWindow().open(*this, first);
 }
 
 void frmTavimor::PopulateGridVars(Long v) {

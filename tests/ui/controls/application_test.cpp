@@ -9,6 +9,7 @@
 #include <new>
 
 #include "runtime/run_time_error.h"
+#include "ui/controls/form.h"
 #include "ui/support/dialogs.h"
 
 namespace tavimor {
@@ -91,6 +92,7 @@ TEST_F(Dispatcher, TheBoxIsCriticalAndHasTheProgramsTitle) {
     EXPECT_EQ(dynamic_cast<QMessageBox&>(dialog).icon(), QMessageBox::Critical);
     QTest::keyClick(&dialog, Qt::Key_Escape);
   });
+  dialogs.expectAndPress(QStringLiteral("Yes"));
   clickAndFail([] { throw RunTimeError(ErrorNumber::Overflow); });
   EXPECT_EQ(endedWith, std::vector<int>{1});
 }
@@ -101,6 +103,36 @@ TEST_F(Dispatcher, SavesACopyAndEnds) {
   clickAndFail([] { throw RunTimeError(ErrorNumber::Overflow); });
   EXPECT_EQ(savedTo, std::vector<std::string>{folderFile("copy").toStdString()});
   EXPECT_EQ(endedWith, std::vector<int>{1});
+}
+
+TEST_F(Dispatcher, EnterSavesACopy) {
+  dialogs.expect([](QDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Return); });
+  dialogs.expectAndType(folderFile("copy"));
+  clickAndFail([] { throw RunTimeError(ErrorNumber::Overflow); });
+  EXPECT_EQ(savedTo.size(), 1U);
+}
+
+TEST_F(Dispatcher, EscapeAndTheTitleBarEndOnlyAfterASecondQuestion) {
+  QString question;
+  dialogs.expectAndCancel();
+  dialogs.expect([&](QDialog& dialog) {
+    question = dynamic_cast<QMessageBox&>(dialog).text();
+    QTest::keyClick(&dialog, Qt::Key_Return);
+  });
+  dialogs.expect([](QDialog& dialog) { dialog.close(); });
+  dialogs.expectAndCancel();
+  dialogs.expectAndPress(QStringLiteral("End"));
+  clickAndFail([] { throw RunTimeError(ErrorNumber::Overflow); });
+  EXPECT_TRUE(question.endsWith(QStringLiteral("End the program?"))) << question.toStdString();
+  EXPECT_EQ(endedWith, std::vector<int>{1});
+}
+
+TEST_F(Dispatcher, ARequestFromOutsideEndsWithoutASecondQuestion) {
+  QPointer<Form> form = new Form(QStringLiteral("form"));
+  dialogs.expect([&](QDialog& /*dialog*/) { form->unloadFromOutside(); });
+  clickAndFail([] { throw RunTimeError(ErrorNumber::Overflow); });
+  EXPECT_EQ(endedWith, std::vector<int>{1});
+  EXPECT_TRUE(QTest::qWaitFor([&] { return form.isNull(); }));
 }
 
 TEST_F(Dispatcher, TheBoxComesBackWhereTheCopyFails) {

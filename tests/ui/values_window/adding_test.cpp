@@ -29,6 +29,18 @@ TEST_F(AddingValues, OpensTheWindowWithTheNewValuesZero) {
   expectAgreement();
 }
 
+TEST_F(AddingValues, OpensTheGridAtTheFirstAddedValue) {
+  add(0, "40");
+  EXPECT_EQ(grid().Row(), 3);
+  EXPECT_TRUE(grid().viewport()->rect().contains(grid().visualItemRect(grid().item(3, 1))));
+  type("7");
+  EXPECT_EQ(model.X0[3], 7);
+  clickDone();
+  add(0, "1");
+  EXPECT_EQ(grid().Row(), 43);
+  EXPECT_TRUE(grid().viewport()->rect().contains(grid().visualItemRect(grid().item(43, 1))));
+}
+
 TEST_F(AddingValues, CalledOffOpensNoWindow) {
   dialogs.expectAndCancel();
   click("cmdAddVars(0)");

@@ -1,6 +1,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <QWindow>
+
 #include "runtime/number_text.h"
 #include "ui/support/values_window_test.h"
 
@@ -34,6 +36,12 @@ TEST_F(OpeningTheValues, TheGridHasALabelColumnAndAColumnOfValues) {
 TEST_F(OpeningTheValues, TheCaptionNamesTheVariable) {
   edit(1);
   EXPECT_EQ(values().windowTitle(), QStringLiteral("Enter/edit values of variable: y"));
+}
+
+TEST_F(OpeningTheValues, TheWindowIsADialogOfTheMainWindowSoThatNothingCoversIt) {
+  edit(0);
+  EXPECT_EQ(values().windowType(), Qt::Dialog);
+  EXPECT_EQ(values().windowHandle()->transientParent(), window->windowHandle());
 }
 
 TEST_F(OpeningTheValues, TheMainWindowStaysInSightAndRefusesInput) {

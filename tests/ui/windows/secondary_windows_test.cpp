@@ -50,6 +50,7 @@ TEST_F(SecondaryWindows, EditFunctionOpensAtTheTypedPointWithTheMainWindowDisabl
   EXPECT_TRUE(function.isVisible());
   EXPECT_FALSE(window->isEnabled());
   EXPECT_TRUE(window->isVisible());
+  EXPECT_EQ(function.windowType(), Qt::Dialog) << "a window manager keeps it above the main window";
   EXPECT_EQ(textOf(function, "txtFunIndex(0)"), QStringLiteral("2"));
   EXPECT_EQ(textOf(function, "txtFunIndex(1)"), QStringLiteral("1"));
   EXPECT_EQ(textOf(function, "txtFun").toDouble(), twoVariablesAt(1.0, 2.0));
