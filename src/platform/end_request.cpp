@@ -4,6 +4,7 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include <atomic>
 #include <cerrno>
 #include <csignal>
 #endif
@@ -14,14 +15,19 @@ namespace tavimor {
 
 int watchEndRequests() { return -1; }
 
+bool endIsRequested() { return false; }
+
 #else
 
 namespace {
 
 int requests = -1;  // the writing end of the pipe
+std::atomic<bool> isRequested = false;
+static_assert(std::atomic<bool>::is_always_lock_free, "a signal handler must not wait");
 
 void noteRequest(int /*signal*/) {
   const int errorBefore = errno;
+  isRequested = true;
   const char note = 0;
   // A full pipe holds a request already.
   [[maybe_unused]] const ssize_t written = write(requests, &note, 1);
@@ -47,10 +53,12 @@ int watchEndRequests() {
     fcntl(end, F_SETFL, O_NONBLOCK);
   }
   requests = ends[1];
-  catchSignal(SIGTERM);
-  catchSignal(SIGINT);
+  isRequested = false;
+  for (const int signal : {SIGTERM, SIGINT, SIGHUP}) catchSignal(signal);
   return ends[0];
 }
+
+bool endIsRequested() { return isRequested; }
 
 #endif
 

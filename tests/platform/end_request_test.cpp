@@ -25,8 +25,10 @@ TEST_P(EndRequest, BecomesReadableInsteadOfKilling) {
   const int requests = watchEndRequests();
   ASSERT_GE(requests, 0);
   EXPECT_FALSE(hasRequest(requests));
+  EXPECT_FALSE(endIsRequested());
   std::raise(GetParam());
   EXPECT_TRUE(hasRequest(requests));
+  EXPECT_TRUE(endIsRequested());
 }
 
 TEST_P(EndRequest, StaysIgnoredWhereItWasIgnored) {
@@ -34,9 +36,10 @@ TEST_P(EndRequest, StaysIgnoredWhereItWasIgnored) {
   const int requests = watchEndRequests();
   std::raise(GetParam());
   EXPECT_FALSE(hasRequest(requests));
+  EXPECT_FALSE(endIsRequested());
 }
 
-INSTANTIATE_TEST_SUITE_P(Signals, EndRequest, testing::Values(SIGTERM, SIGINT));
+INSTANTIATE_TEST_SUITE_P(Signals, EndRequest, testing::Values(SIGTERM, SIGINT, SIGHUP));
 
 }  // namespace
 }  // namespace tavimor

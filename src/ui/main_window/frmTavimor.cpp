@@ -5,6 +5,7 @@
 
 #include "engine/Compute.h"
 #include "platform/decimal_separator.h"
+#include "platform/end_request.h"
 #include "ui/controls/message_box.h"
 #include "ui/main_window/frmAbout.h"
 
@@ -92,7 +93,10 @@ void frmTavimor::showBlockNumber(Long number) {
 }
 
 void frmTavimor::Compute() {
-  tavimor::Compute(model_, [this](const std::string& line) { lstCoeff->addItem(QString::fromStdString(line)); });
+  FitOptions options;
+  options.isCalledOff = endIsRequested;
+  const auto addItem = [this](const std::string& line) { lstCoeff->addItem(QString::fromStdString(line)); };
+  tavimor::Compute(model_, addItem, options);
 }
 
 void frmTavimor::Evaluate() { tavimor::Evaluate(model_); }

@@ -8,7 +8,9 @@
 #include <thread>
 
 #include "platform/decimal_separator.h"
+#include "platform/end_request.h"
 #include "ui/controls/message_box.h"
+#include "ui/controls/polite_end.h"
 #include "ui/main_window/frmAbout.h"
 #include "ui/main_window/frmTavimor.h"
 
@@ -39,16 +41,19 @@ void dispatchUntilShown(const QWidget& window) {
   }
 }
 
-// Until the third whole second has begun: two to three seconds, in which no event is dispatched.
+// Until the third whole second has begun: two to three seconds, in which no event is dispatched. A request to end the
+// program is not kept waiting.
 void waitForThirdSecond() {
   using namespace std::chrono;
-  std::this_thread::sleep_until(floor<seconds>(steady_clock::now()) + seconds(3));
+  const auto end = floor<seconds>(steady_clock::now()) + seconds(3);
+  while (steady_clock::now() < end && !endIsRequested()) std::this_thread::sleep_for(milliseconds(10));
 }
 
 }  // namespace
 
 StartUp DecimalPoint() {
   if (ReadDecimalSeparator() == ".") return StartUp::GoesOn;
+  const CallsOffDialogs callsOffDialogs;
   switch (askCritical(decimalCommaWarning(), QStringLiteral("Decimal Comma Warning!"))) {
     case Answer::Yes: SetDecimalPoint(); return StartUp::GoesOn;
     case Answer::No:
@@ -63,6 +68,10 @@ frmTavimor* Main(Dimension& model) {
   dispatchUntilShown(splash);
   waitForThirdSecond();
   splash.unload();
+  if (endIsRequested()) {
+    RestoreDecimalSeparator();
+    return nullptr;
+  }
   auto* window = new frmTavimor(model);
   window->show();
   return window;

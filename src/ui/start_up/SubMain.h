@@ -13,7 +13,8 @@ enum class StartUp { GoesOn, Declined };
 StartUp DecimalPoint();
 
 /// The start-up: the decimal separator, the About window for two to three seconds, the main window.
-/// Returns the main window, shown; null where the user has declined, and no window was shown.
+/// Returns the main window, shown; null where the user has declined, or where the program was asked from outside to end
+/// before there was one. The separator is the user's own again then.
 frmTavimor* Main(Dimension& model);
 
 }  // namespace tavimor

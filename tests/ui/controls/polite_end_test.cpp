@@ -6,6 +6,8 @@
 #include <QTest>
 #include <csignal>
 
+#include "platform/end_request.h"
+
 namespace tavimor {
 namespace {
 
@@ -16,7 +18,7 @@ class PoliteEnd : public testing::Test {
 
 TEST_F(PoliteEnd, UnloadsTheForm) {
   const QPointer<Form> form = new Form(QStringLiteral("form"));
-  unloadOnEndRequest(*form);
+  unloadOnEndRequest(*form, watchEndRequests());
   std::raise(SIGTERM);
   EXPECT_TRUE(form->isOpen());
   EXPECT_TRUE(QTest::qWaitFor([&] { return form.isNull(); }));
@@ -24,7 +26,7 @@ TEST_F(PoliteEnd, UnloadsTheForm) {
 
 TEST_F(PoliteEnd, IsAskedForOnceEvenByTwoSignals) {
   const QPointer<Form> form = new Form(QStringLiteral("form"));
-  unloadOnEndRequest(*form);
+  unloadOnEndRequest(*form, watchEndRequests());
   std::raise(SIGTERM);
   std::raise(SIGTERM);
   EXPECT_TRUE(QTest::qWaitFor([&] { return form.isNull(); }));

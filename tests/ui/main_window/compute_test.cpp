@@ -2,7 +2,9 @@
 
 #include <QElapsedTimer>
 #include <QScrollBar>
+#include <csignal>
 
+#include "platform/end_request.h"
 #include "support/stored.h"
 #include "ui/support/main_window_test.h"
 
@@ -25,6 +27,18 @@ TEST_F(ComputeButton, FindsTheKnownCoefficients) {
   EXPECT_NEAR(model.Coef(1, 0, 0, 0), 2 + 6 * 0.5, 1e-12);
   EXPECT_NEAR(model.Coef(2, 0, 0, 0), 3, 1e-12);
   EXPECT_NEAR(model.Coef(0, 1, 0, 0), 4, 1e-12);
+}
+
+TEST_F(ComputeButton, IsCalledOffByARequestToEnd) {
+  watchEndRequests();
+  std::raise(SIGTERM);
+  click("cmdCompute");
+  EXPECT_FALSE(model.FitDone);
+  EXPECT_EQ(results().count(), 0);
+  watchEndRequests();  // forgets the request
+  click("cmdCompute");
+  EXPECT_TRUE(model.FitDone);
+  std::signal(SIGTERM, SIG_DFL);
 }
 
 TEST_F(ComputeButton, ListsTheResults) {

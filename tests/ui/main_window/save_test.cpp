@@ -5,6 +5,7 @@
 #include <csignal>
 
 #include "formats/problem_reader.h"
+#include "platform/end_request.h"
 #include "support/stored.h"
 #include "ui/controls/application.h"
 #include "ui/controls/polite_end.h"
@@ -75,7 +76,10 @@ struct Ending {
 
 class SaveAtTheEnd : public Save, public testing::WithParamInterface<Ending> {
  protected:
-  ~SaveAtTheEnd() override { std::signal(SIGTERM, SIG_DFL); }
+  ~SaveAtTheEnd() override {
+    watchEndRequests();  // forgets the request
+    std::signal(SIGTERM, SIG_DFL);
+  }
 };
 
 TEST_P(SaveAtTheEnd, WritesNothing) {
@@ -83,7 +87,7 @@ TEST_P(SaveAtTheEnd, WritesNothing) {
   open("problem");
   const QByteArray before = contentOf("problem");
   enter("txtUL(0)", "5");
-  unloadOnEndRequest(*window);
+  unloadOnEndRequest(*window, watchEndRequests());
   dialogs.expect([](QDialog&) { GetParam().come(); });
   QTimer::singleShot(0, window, [this] { saveAsByKey(); });
   EXPECT_EQ(QApplication::exec(), 0);
@@ -117,6 +121,57 @@ TEST_F(Save, NeverReplacesUnaskedAFileThatCouldNotBeOpened) {
   dialogs.expectAndCancel();
   saveByKey();
   EXPECT_EQ(contentOf("letter"), "Dear Sir");
+}
+
+TEST_F(Save, NeverReplacesAFileThatIsNoProblem) {
+  writeFile("letter", "Dear Sir");
+  declare("1", "x");
+  QString text;
+  dialogs.expectAndType(pathOf("letter"));
+  dialogs.expectAndPress("OK", &text);
+  dialogs.expectAndType(pathOf("problem"));
+  saveByKey();
+  EXPECT_EQ(text.toStdString(),
+            "Not saved: the file is there already and is not the specification of a problem\n" + file("letter"));
+  EXPECT_EQ(contentOf("letter"), "Dear Sir");
+  EXPECT_TRUE(contentOf("problem").startsWith(" 0 "));
+}
+
+TEST_F(Save, ToANameThatAnotherKindOfFileHasGotSinceIsRefusedAndTheUserGoesOn) {
+  declare("1", "x");
+  dialogs.expectAndType(pathOf("problem"));
+  saveByKey();
+  writeFile("problem.dat", "Dear Sir");
+  QString text;
+  dialogs.expectAndPress("OK", &text);
+  saveByKey();
+  EXPECT_EQ(text.toStdString(),
+            "Not saved: the file is there already and is not the values of a problem\n" + file("problem.dat"));
+  EXPECT_EQ(contentOf("problem.dat"), "Dear Sir");
+  EXPECT_TRUE(window->isOpen());
+  dialogs.expectAndCancel();
+  saveByKey();
+  EXPECT_EQ(contentOf("problem.dat"), "Dear Sir");
+  dialogs.expectAndType(pathOf("other"));
+  saveByKey();
+  EXPECT_TRUE(contentOf("other.dat").startsWith(" 0 "));
+}
+
+TEST_F(Save, OfACopyTakesWhatTheFieldsShowAndAllValues) {
+  declare("2", "x,y");
+  specify(0, "-1", "3", "5", "2");
+  enter("txtExpansion(0)", "*");
+  click("cmdNextVar");
+  specify(1, "10", "20", "3", "1");
+  window->saveCopy(file("copy"));
+  const Dimension copy = test::stored(file("copy"));
+  EXPECT_EQ(copy.LowerLimit, (PerVariable<double>{-1, 10}));
+  EXPECT_EQ(copy.UpperLimit, (PerVariable<double>{3, 20}));
+  EXPECT_EQ(copy.Degree, (PerVariable<Long>{2, 1}));
+  EXPECT_EQ(copy.Centre, (PerVariable<double>{1, 15}));
+  EXPECT_EQ(copy.X0, (std::vector<double>{-1, 0, 1, 2, 3}));
+  EXPECT_EQ(copy.X1, (std::vector<double>{10, 15, 20}));
+  EXPECT_EQ(copy.F.last(), (PerVariable<Long>{4, 2}));
 }
 
 TEST_F(Save, AfterAnAdditionGoesToTheWorkFile) {

@@ -1,13 +1,18 @@
 #include "ui/start_up/SubMain.h"
 
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <QElapsedTimer>
 #include <QMessageBox>
 #include <QPointer>
 #include <QTest>
+#include <chrono>
+#include <csignal>
+#include <thread>
 
 #include "platform/decimal_separator.h"
+#include "platform/end_request.h"
 #include "support/user_locale.h"
 #include "ui/main_window/frmAbout.h"
 #include "ui/main_window/frmTavimor.h"
@@ -60,6 +65,47 @@ TEST_F(Start, WithACommaYesChangesItToAPointAndTheEndBringsItBack) {
   EXPECT_EQ(test::decimalSeparator(), ",");
   EXPECT_EQ(locale.text(), "LC_ALL=de_DE.UTF-8");
 }
+
+// A request to end that comes in the middle of the splash.
+class AskedToEnd : public Start, public testing::WithParamInterface<int> {
+ protected:
+  AskedToEnd() { watchEndRequests(); }
+  ~AskedToEnd() override {
+    watchEndRequests();  // forgets the request
+    std::signal(GetParam(), SIG_DFL);
+  }
+
+  void askSoon() {
+    asking = std::thread([] {
+      std::this_thread::sleep_for(std::chrono::milliseconds(400));
+      kill(getpid(), GetParam());
+    });
+  }
+
+  std::thread asking;
+};
+
+TEST_P(AskedToEnd, DuringTheSplashItEndsAtOnceWithTheSeparatorBack) {
+  useComma();
+  dialogs.expectAndPress("Yes");
+  askSoon();
+  start();
+  asking.join();
+  EXPECT_EQ(window, nullptr);
+  EXPECT_LT(milliseconds, 2000);
+  EXPECT_TRUE(Form::openForms().isEmpty());
+  EXPECT_EQ(locale.text(), "LC_ALL=de_DE.UTF-8");
+}
+
+TEST_P(AskedToEnd, DuringTheQuestionItEndsToo) {
+  useComma();
+  dialogs.expect([](QDialog& /*box*/) { std::raise(GetParam()); });
+  start();
+  EXPECT_EQ(window, nullptr);
+  EXPECT_EQ(locale.text(), "LC_ALL=de_DE.UTF-8");
+}
+
+INSTANTIATE_TEST_SUITE_P(Signals, AskedToEnd, testing::Values(SIGTERM, SIGHUP));
 
 class Declining : public Start, public testing::WithParamInterface<const char*> {};
 
