@@ -3,7 +3,7 @@
 #include <filesystem>
 #include <utility>
 
-#include "formats/file_pair.h"
+#include "formats/pair_paths.h"
 #include "model/table4.h"
 #include "platform/files.h"
 #include "runtime/bad_file.h"
