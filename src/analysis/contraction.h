@@ -1,0 +1,24 @@
+#pragma once
+
+#include "analysis/analysis_options.h"
+#include "analysis/function_values.h"
+#include "analysis/pair_table.h"
+
+namespace tavimor {
+
+/// The table with axis k replaced by the columns of a matrix that has a row per element of that axis:
+///   result(.., c, ..) = sum over i of table(.., i, ..) * matrix(i, c).
+/// Each sum is one chain over i, cut into blocks, for any number of threads and lanes.
+/// Errors: OutOfMemory, AnalysisCancelled.
+PairTable contracted(const PairTable& table, int k, const PairMatrix& matrix, const AnalysisOptions& options);
+
+/// The same for the function, and what one reading of it tells besides.
+struct FunctionContraction {
+  PairTable table;
+  Pair sumOfSquares;
+  bool exactValues = true;  // all are doubles exactly
+};
+FunctionContraction contracted(const FunctionValues& function, const PerVariable<std::size_t>& extent, int k,
+                               const PairMatrix& matrix, const AnalysisOptions& options);
+
+}  // namespace tavimor

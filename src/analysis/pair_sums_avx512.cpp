@@ -1,0 +1,25 @@
+#include <immintrin.h>
+
+#include <cstring>
+
+#include "analysis/pair_sums.h"
+#include "analysis/typed_value.h"
+
+#define TAVIMOR_INLINE [[gnu::always_inline]] inline
+
+namespace tavimor {
+namespace {
+
+constexpr std::size_t kLanes = 8;
+#include "analysis/vector_registers.inc"
+
+TAVIMOR_INLINE Vector productError(Vector a, Vector b, Vector product) { return _mm512_fmsub_pd(a, b, product); }
+
+#include "analysis/pair_sums.inc"
+
+}  // namespace
+
+extern const PairSums kPairSumsAvx512;
+const PairSums kPairSumsAvx512 = kPairSums;
+
+}  // namespace tavimor

@@ -1,0 +1,162 @@
+#include "analysis/pair_sums.h"
+
+#include <gtest/gtest.h>
+
+#include <bit>
+#include <cmath>
+#include <limits>
+#include <random>
+
+#include "analysis/typed_value.h"
+#include "support/exact_fit.h"
+
+// Every instruction set has to give the bits of the plain loops.
+namespace tavimor {
+namespace {
+
+constexpr InstructionSet kSets[] = {InstructionSet::Plain, InstructionSet::Baseline, InstructionSet::Avx2,
+                                    InstructionSet::Avx512};
+
+std::vector<const PairSums*> availableSets() {
+  std::vector<const PairSums*> sets;
+  for (const InstructionSet set : kSets)
+    if (hasInstructionSet(set)) sets.push_back(&pairSums(set));
+  return sets;
+}
+
+PairList randomPairs(std::size_t count, unsigned seed) {
+  std::mt19937_64 random(seed);
+  std::normal_distribution<double> normal;
+  PairList list(count);
+  for (std::size_t n = 0; n < count; ++n) {
+    list.high[n] = normal(random);
+    list.low[n] = 0x1p-54 * list.high[n] * normal(random) / 4;
+  }
+  return list;
+}
+
+void expectSameBits(const std::vector<double>& a, const std::vector<double>& b) {
+  ASSERT_EQ(a.size(), b.size());
+  for (std::size_t n = 0; n < a.size(); ++n)
+    EXPECT_EQ(std::bit_cast<std::uint64_t>(a[n]), std::bit_cast<std::uint64_t>(b[n])) << n;
+}
+
+void expectSameBits(const PairList& a, const PairList& b) {
+  expectSameBits(a.high, b.high);
+  expectSameBits(a.low, b.low);
+}
+
+TEST(PairSums, ContractionsAreTheSameEverywhereAndRight) {
+  for (const std::size_t columns : {1, 2, 3, 4, 5, 7, 11}) {
+    constexpr std::size_t points = 29, lanes = 16;
+    PairList table = randomPairs(points * lanes, 1), list = randomPairs(points * columns, 2);
+    std::vector<Pair> matrix;
+    for (std::size_t n = 0; n < points * columns; ++n) matrix.emplace_back(list.high[n], list.low[n]);
+    PairList wanted(columns * lanes);
+    pairSums(InstructionSet::Plain).contract(Pairs(table), points, lanes, matrix.data(), columns, columns, wanted);
+    for (const PairSums* sums : availableSets()) {
+      PairList got(columns * lanes);
+      sums->contract(Pairs(table), points, lanes, matrix.data(), columns, columns, got);
+      expectSameBits(got, wanted);
+    }
+    for (std::size_t c = 0; c < columns; ++c) {
+      mpq_class exact, size;
+      for (std::size_t p = 0; p < points; ++p) {
+        const mpq_class product =
+            test::exactly({table.high[p * lanes], table.low[p * lanes]}) * test::exactly(matrix[p * columns + c]);
+        exact += product;
+        size += abs(product);
+      }
+      const double error = test::distance({wanted.high[c * lanes], wanted.low[c * lanes]}, exact);
+      EXPECT_LE(error, 4096 * kUnitRoundoff * kUnitRoundoff * size.get_d());
+    }
+  }
+}
+
+TEST(PairSums, DotProductsAreTheSameEverywhere) {
+  PairList a = randomPairs(kMostDotted, 3), b = randomPairs(kMostDotted, 4);
+  for (const std::size_t count : {kChains, 5 * kChains, kMostDotted}) {
+    ChainSum wanted;
+    pairSums(InstructionSet::Plain).dot(Pairs(a), Pairs(b), count, wanted.chains());
+    for (const PairSums* sums : availableSets()) {
+      ChainSum got;
+      sums->dot(Pairs(a), Pairs(b), count, got.chains());
+      EXPECT_EQ(got.total().high, wanted.total().high);
+      EXPECT_EQ(got.total().low, wanted.total().low);
+    }
+  }
+}
+
+TEST(PairSums, RecurrencesAndFoldsAreTheSameEverywhere) {
+  constexpr std::size_t count = 5 * kChains;
+  PairList t = randomPairs(count, 5), current = randomPairs(count, 6), previous = randomPairs(count, 7);
+  const RecurrenceStep step{0.3, 2.0, {0.7, 1e-18}};
+  PairList wanted(count), wantedSum(count), wantedDifference(count);
+  const PairSums& plain = pairSums(InstructionSet::Plain);
+  const double largest = plain.advance(step, Pairs(t), Pairs(current), Pairs(previous), count, wanted);
+  plain.sumAndDifference(Pairs(t), Pairs(current), count, wantedSum, wantedDifference);
+  for (const PairSums* sums : availableSets()) {
+    PairList got(count), sum(count), difference(count);
+    EXPECT_EQ(sums->advance(step, Pairs(t), Pairs(current), Pairs(previous), count, got), largest);
+    expectSameBits(got, wanted);
+    sums->sumAndDifference(Pairs(t), Pairs(current), count, sum, difference);
+    expectSameBits(sum, wantedSum);
+    expectSameBits(difference, wantedDifference);
+  }
+}
+
+std::vector<double> numbersOfAllKinds() {
+  std::vector<double> values = {0.0, -0.0, 0.1, 1e14, 1e15, 123456789012345.0, 1e-8, 9.99999999999999e-9, 1e22, 5e-324};
+  std::mt19937_64 random(8);
+  for (int n = 0; n < 5000; ++n) {
+    char text[40];
+    std::snprintf(text, sizeof text, "%.*E", std::uniform_int_distribution<int>(0, 16)(random),
+                  std::ldexp(std::uniform_real_distribution<double>(-1, 1)(random),
+                             std::uniform_int_distribution<int>(-40, 60)(random)));
+    values.push_back(test::exactValue(std::strtod(text, nullptr), Reading::AsStored).get_d());
+  }
+  return values;
+}
+
+TEST(PairSums, TypedLowsAreThoseOfTypedValue) {
+  const std::vector<double> values = numbersOfAllKinds();
+  for (const PairSums* sums : availableSets()) {
+    std::vector<double> low(values.size());
+    EXPECT_FALSE(sums->typedLows(values.data(), values.size(), low.data()));
+    for (std::size_t n = 0; n < values.size(); ++n) ASSERT_EQ(low[n], typedLow(values[n])) << values[n];
+  }
+}
+
+TEST(PairSums, DecimalsThatDoublesHoldAreNoticed) {
+  std::vector<double> values = {1, 2.5, -0.375, 0, 1024, 3, 4, 5, 6};
+  std::vector<double> low(values.size());
+  for (const PairSums* sums : availableSets()) EXPECT_TRUE(sums->typedLows(values.data(), values.size(), low.data()));
+  for (const std::size_t place : {0, 8}) {
+    std::vector<double> one = values;
+    one[place] = 0.1;
+    for (const PairSums* sums : availableSets()) EXPECT_FALSE(sums->typedLows(one.data(), one.size(), low.data()));
+  }
+}
+
+TEST(PairSums, MagnitudesAreFound) {
+  for (const PairSums* sums : availableSets()) {
+    const std::vector<double> values = {0, -3, 1e-200, 2, 0, 0, 1e-9, 2.5, 1, -1, 0};
+    for (std::size_t count = 3; count <= values.size(); ++count) {
+      const Magnitudes found = sums->magnitudes(values.data(), count);
+      EXPECT_TRUE(found.allFinite);
+      EXPECT_EQ(found.largest, 3);
+      EXPECT_EQ(found.smallest, 1e-200);
+    }
+    const std::vector<double> zeros(5);
+    EXPECT_EQ(sums->magnitudes(zeros.data(), zeros.size()).smallest, 0.0);
+    for (const double bad : {std::numeric_limits<double>::infinity(), std::nan("")})
+      for (std::size_t place = 0; place < values.size(); ++place) {
+        std::vector<double> spoilt = values;
+        spoilt[place] = bad;
+        EXPECT_FALSE(sums->magnitudes(spoilt.data(), spoilt.size()).allFinite) << place;
+      }
+  }
+}
+
+}  // namespace
+}  // namespace tavimor
