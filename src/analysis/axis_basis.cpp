@@ -130,18 +130,4 @@ AxisBasis axisBasis(const AxisData& axis, const AnalysisOptions& options) {
   return basis;
 }
 
-std::vector<Pair> orthonormalAt(const AxisBasis& basis, const Pair& t) {
-  std::vector<Pair> polynomial(basis.terms);
-  polynomial[0] = 1.0;
-  for (std::size_t j = 0; j + 1 < basis.terms; ++j) {
-    const RecurrenceStep& step = basis.recurrence[j];
-    const Pair before = j > 0 ? polynomial[j - 1] : Pair();
-    polynomial[j + 1] = (t - Pair(step.shift)) * polynomial[j] * Pair(step.scale) - step.back * before;
-  }
-  std::vector<Pair> result(basis.terms);
-  for (std::size_t j = 0; j < basis.terms; ++j)
-    for (std::size_t a = 0; a <= j; ++a) result[j] = result[j] + basis.inverse(j, a) * polynomial[a];
-  return result;
-}
-
 }  // namespace tavimor

@@ -51,7 +51,4 @@ Recurrence axisRecurrence(const AxisData& axis, const AxisFrame& frame, const Pa
 void fillPolynomials(const Recurrence& recurrence, const PairSums& sums, ConstPairs t, std::size_t count,
                      Pairs polynomials, std::vector<double>& largest);
 
-/// L^-1 P(t), the orthonormal functions at one coordinate.
-std::vector<Pair> orthonormalAt(const AxisBasis& basis, const Pair& t);
-
 }  // namespace tavimor

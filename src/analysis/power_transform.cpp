@@ -39,11 +39,12 @@ PowersOfPolynomials powersOfPolynomials(const AxisBasis& basis, const Pair& orig
 
 }  // namespace
 
-PowerTransform powerTransform(const AxisBasis& basis, const Pair& centre) {
+PowerTransform powerTransform(const AxisBasis& basis, const Pair& centre, PowerUnit unitOfPowers) {
+  const bool scales = unitOfPowers == PowerUnit::Variable;
   const std::size_t m = basis.terms;
   const PowersOfPolynomials w =
       powersOfPolynomials(basis, coordinateOf(basis.frame, centre), coordinateErrorOf(basis.frame, centre));
-  PowerTransform transform{PairMatrix(m, m), basis.frame.exponent, std::vector<double>(m), std::vector<double>(m)};
+  PowerTransform transform{PairMatrix(m, m), scales ? basis.frame.exponent : 0, std::vector<double>(m), std::vector<double>(m)};
   Pair unit = 1.0;  // scale^a
   for (std::size_t a = 0; a < m; ++a) {
     double squares = 0.0, errorSquares = 0.0;
@@ -64,7 +65,7 @@ PowerTransform powerTransform(const AxisBasis& basis, const Pair& centre) {
     transform.norm[a] = std::sqrt(squares) * std::fabs(unit.high);
     const double ofUnit = static_cast<double>(a) * (basis.frame.scaleError + 6 * kPairError);
     transform.error[a] = std::sqrt(errorSquares / squares) + ofUnit + std::pow(m, 1.5) * kPairError;
-    unit = unit * basis.frame.scale;
+    if (scales) unit = unit * basis.frame.scale;
   }
   return transform;
 }

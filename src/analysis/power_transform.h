@@ -13,6 +13,9 @@ struct PowerTransform {
   std::vector<double> error;  // of each row, at most, beside its norm
 };
 
-PowerTransform powerTransform(const AxisBasis& basis, const Pair& centre);
+/// The powers of what: of the deviation in the unit of the variable, or in that of the coordinate (exponent 0).
+enum class PowerUnit { Variable, Coordinate };
+
+PowerTransform powerTransform(const AxisBasis& basis, const Pair& centre, PowerUnit unit = PowerUnit::Variable);
 
 }  // namespace tavimor

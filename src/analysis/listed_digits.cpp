@@ -1,0 +1,51 @@
+#include "analysis/listed_digits.h"
+
+#include <cmath>
+
+#include "analysis/right_digits.h"
+#include "runtime/run_time_error.h"
+
+namespace tavimor {
+
+namespace {
+
+// The root of a quotient whose relative error is small; the bound is that of the dividend where it is not.
+Bounded rootOf(const Bounded& dividend, const Pair& divisor, double ofDivisor) {
+  const Pair quotient = dividend.value / divisor;
+  if (!(quotient.high > 0.0)) return {Pair(), std::sqrt(dividend.bound / divisor.high)};
+  const Pair root = squareRoot(quotient);
+  const double relative = dividend.bound / dividend.value.high + ofDivisor / divisor.high + 4 * kPairError;
+  return {root, root.high * relative};
+}
+
+// A function that is constant is listed with a correlation of 1.
+Bounded correlationOf(const PreciseFit& fit) {
+  if (std::fabs(fit.totalSum.value.high) <= fit.totalSum.bound) return {Pair(1.0), 0.0};
+  const Bounded explained{fit.totalSum.value - fit.residualSum.value, fit.totalSum.bound + fit.residualSum.bound};
+  return rootOf(explained, fit.totalSum.value, fit.totalSum.bound);
+}
+
+}  // namespace
+
+ListedDigits listedDigits(const Fit& listed, const PreciseFit& precise) {
+  if (listed.Coef.size() != precise.termCount()) throw RunTimeError(ErrorNumber::SubscriptOutOfRange);
+  ListedDigits digits;
+  for (std::size_t n = 0; n < precise.termCount(); ++n) {
+    const PreciseCoefficient& one = precise.coefficients[n];
+    digits.coefficients.push_back(rightDigits(listed.Coef.data()[n], one.solution));
+    if (one.isNoise() || !(digits.coefficients[n] < digits.worst)) continue;
+    digits.worst = digits.coefficients[n];
+    digits.worstCoefficient = n;
+  }
+  digits.correlation = rightDigits(listed.CorrCoef, correlationOf(precise));
+  digits.residualSum = rightDigits(listed.SumRes2, precise.residualSum);
+  digits.averageGiven = rightDigits(listed.AvgGiven, precise.mean);
+  digits.averageEstimated = rightDigits(listed.AvgEstimated, precise.mean);
+  if (precise.points > 2) {
+    const Pair divisor(static_cast<double>(precise.points) - 2);
+    digits.standardError = rightDigits(listed.StdErr, rootOf(precise.residualSum, divisor, 0.0));
+  }
+  return digits;
+}
+
+}  // namespace tavimor

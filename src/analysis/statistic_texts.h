@@ -1,0 +1,18 @@
+#pragma once
+
+#include <span>
+
+namespace tavimor {
+
+/// A figure with its name and its definition, so that every place that shows it says the same.
+struct StatisticText {
+  const char* key;   // as in the JSON output
+  const char* name;  // for people
+  const char* definition;
+};
+
+/// In the order in which they are shown. N points, P coefficients, RSS the sum of squared residuals of the precise
+/// solution, TSS that of the deviations from the mean.
+std::span<const StatisticText> statisticTexts();
+
+}  // namespace tavimor
