@@ -3,7 +3,7 @@
 #include <exception>
 #include <functional>
 
-#include "engine/compute_options.h"
+#include "engine/fit_options.h"
 
 namespace tavimor {
 

@@ -9,11 +9,11 @@ namespace tavimor {
 namespace {
 
 // Extreme probabilities are 0 or 1, not errors.
-using Policy = boost::math::policies::policy<
-    boost::math::policies::overflow_error<boost::math::policies::ignore_error>,
-    boost::math::policies::underflow_error<boost::math::policies::ignore_error>,
-    boost::math::policies::evaluation_error<boost::math::policies::ignore_error>,
-    boost::math::policies::promote_double<false>>;
+using Policy =
+    boost::math::policies::policy<boost::math::policies::overflow_error<boost::math::policies::ignore_error>,
+                                  boost::math::policies::underflow_error<boost::math::policies::ignore_error>,
+                                  boost::math::policies::evaluation_error<boost::math::policies::ignore_error>,
+                                  boost::math::policies::promote_double<false>>;
 
 }  // namespace
 

@@ -128,8 +128,7 @@ GridResiduals residualsOfTable(const ProblemData& data, const Decomposition& dec
       line.low[j * kChains] = value.low;
     }
     contractAll(sums, Pairs(line), terms, kChains, expansion, estimates);
-    for (std::size_t i = 0; i < count; ++i)
-      values.high[i] = function.values[(outer * count + i) * inner + n % inner];
+    for (std::size_t i = 0; i < count; ++i) values.high[i] = function.values[(outer * count + i) * inner + n % inner];
     finishBlock(function, sums, values, count);
     for (std::size_t i = 0; i < count; ++i) {
       at[last] = static_cast<Long>(i);

@@ -22,8 +22,7 @@ void addComparisons(FitStatistics& statistics, double rss, double tss) {
   const double parameters = p + 1;  // the variance is one
   statistics.bic = n * std::log(rss / n) + parameters * std::log(n);
   if (n - parameters - 1 > 0)
-    statistics.aicc =
-        n * std::log(rss / n) + 2 * parameters + 2 * parameters * (parameters + 1) / (n - parameters - 1);
+    statistics.aicc = n * std::log(rss / n) + 2 * parameters + 2 * parameters * (parameters + 1) / (n - parameters - 1);
 }
 
 }  // namespace
@@ -58,8 +57,7 @@ std::optional<double> predictedRSquared(const PreciseFit& fit, const GridResidua
   return 1 - *residuals.press / fit.totalSum.rounded();
 }
 
-CoefficientInference inferenceOf(const PreciseCoefficient& coefficient, const FitStatistics& statistics,
-                                 double level) {
+CoefficientInference inferenceOf(const PreciseCoefficient& coefficient, const FitStatistics& statistics, double level) {
   CoefficientInference inference;
   if (!statistics.s) return inference;
   const double value = coefficient.solution.rounded(), freedom = static_cast<double>(statistics.freedom());

@@ -13,7 +13,7 @@ namespace tavimor {
 /// Source: Draper and Smith, Applied Regression Analysis, 3rd ed., 1998.
 struct FitStatistics {
   std::size_t points = 0, terms = 0;
-  bool noFreedom = false;       // as many terms as points
+  bool noFreedom = false;         // as many terms as points
   bool residualsAreZero = false;  // as far as can be told
   double rss = 0.0;
   std::optional<double> s, rSquared, adjustedRSquared, f, fP, aicc, bic, gcv, rms;

@@ -27,7 +27,8 @@ OrthonormalAt orthonormalAt(const AxisBasis& basis, const Pair& x) {
     for (std::size_t a = 0; a <= j; ++a) {
       const double inverse = std::fabs(basis.inverse(j, a).high);
       result.values[j] = result.values[j] + basis.inverse(j, a) * polynomial[a];
-      carried += inverse * (error[a] + static_cast<double>(basis.terms + 1) * kPairError * std::fabs(polynomial[a].high));
+      carried +=
+          inverse * (error[a] + static_cast<double>(basis.terms + 1) * kPairError * std::fabs(polynomial[a].high));
     }
     squares += result.values[j].high * result.values[j].high;
     errorSquares += carried * carried;

@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "analysis/pair.h"
-#include "engine/compute_options.h"
+#include "engine/fit_options.h"
 
 namespace tavimor {
 

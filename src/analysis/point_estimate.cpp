@@ -22,8 +22,7 @@ PointEstimate estimateAt(const Decomposition& decomposition, const PerVariable<P
     error += functions.error / functions.norm + static_cast<double>(basis.terms + 1) * kPairError;
   }
   estimate.value.value = scaled(table.at(0), decomposition.exponent);
-  estimate.value.bound =
-      std::ldexp(decomposition.normOfFunction() * estimate.spread * error, decomposition.exponent);
+  estimate.value.bound = std::ldexp(decomposition.normOfFunction() * estimate.spread * error, decomposition.exponent);
   return estimate;
 }
 

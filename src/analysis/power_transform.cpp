@@ -44,7 +44,8 @@ PowerTransform powerTransform(const AxisBasis& basis, const Pair& centre, PowerU
   const std::size_t m = basis.terms;
   const PowersOfPolynomials w =
       powersOfPolynomials(basis, coordinateOf(basis.frame, centre), coordinateErrorOf(basis.frame, centre));
-  PowerTransform transform{PairMatrix(m, m), scales ? basis.frame.exponent : 0, std::vector<double>(m), std::vector<double>(m)};
+  PowerTransform transform{PairMatrix(m, m), scales ? basis.frame.exponent : 0, std::vector<double>(m),
+                           std::vector<double>(m)};
   Pair unit = 1.0;  // scale^a
   for (std::size_t a = 0; a < m; ++a) {
     double squares = 0.0, errorSquares = 0.0;

@@ -44,8 +44,7 @@ std::vector<double> along(const std::vector<double>& table, const PerVariable<st
     for (std::size_t a = 0; a < m; ++a)
       for (std::size_t c = 0; c < m; ++c) {
         const double factor = element(a, c);
-        for (std::size_t n = 0; n < inner; ++n)
-          result[first + a * inner + n] += factor * table[first + c * inner + n];
+        for (std::size_t n = 0; n < inner; ++n) result[first + a * inner + n] += factor * table[first + c * inner + n];
       }
   return result;
 }

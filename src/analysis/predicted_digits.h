@@ -24,7 +24,7 @@ class DigitPredictor {
     double growth = 1.0;            // max(1, sqrt(n)/4)
   };
   struct AxisErrors {
-    std::vector<double> norm, ofSums;  // w(a), v(a)
+    std::vector<double> norm, ofSums;   // w(a), v(a)
     std::vector<double> ofElimination;  // E(a,c)^2
   };
 

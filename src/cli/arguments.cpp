@@ -3,6 +3,7 @@
 #include <CLI/CLI.hpp>
 #include <algorithm>
 
+#include "cli/analysis_arguments.h"
 #include "runtime/numeral.h"
 #include "runtime/text.h"
 
@@ -20,6 +21,8 @@ constexpr Command kCommands[] = {
     {"fit", "Fit the problem and print the results listing", "fit ozone -o ozone-fitted"},
     {"show", "Print the specifications and the stored results", "show ozone-fitted"},
     {"eval", "Print the estimate at a point, or at each point on standard input", "eval sound-speed 10 35 1000"},
+    {"analyse", "Tell how many digits of a fit are right, and give the right ones", "analyse sound-speed"},
+    {"degrees", "Tell how well each combination of degrees would fit", "degrees silicon-index --max 5,9"},
     {"report", "Print the report: specifications, results and data", "report ozone-fitted"},
     {"copy", "Open the problem and save it under another name", "copy ozone ozone-2"},
 };
@@ -55,6 +58,7 @@ void addCommands(CLI::App& app, Arguments& arguments) {
       ->check(refusalOfEmptyName);
   plainly(app.get_subcommand("eval")->add_option("VALUE", arguments.values,
                                                  "one value per variable; without any, one point a line is read"));
+  addAnalysisOptions(app, arguments.options);
   plainly(app.get_subcommand("copy")->add_option("OUT", arguments.output, "the copy's name: OUT and OUT.dat"))
       ->required()
       ->check(refusalOfEmptyName);
@@ -76,13 +80,19 @@ void protectNegativeNumbers(std::vector<std::string>& words) {
   words.insert(words.begin() + 1, "--");
 }
 
+// The parser names the option first.
+std::string optionWithoutValue(const std::string& complaint) {
+  const std::string option = complaint.substr(0, complaint.find_first_of(": "));
+  return option + (option == "--output" ? ": a file name is needed" : ": a value is needed");
+}
+
 std::string complaint(const CLI::App& app, const CLI::ParseError& error) {
   std::vector<std::string> unexpected = app.remaining(true);
   std::erase(unexpected, "--");
   const bool hasCommand = !app.get_subcommands().empty();
   if (!unexpected.empty())
     return (hasCommand ? "unexpected argument \"" : "no such command: \"") + withEscapes(unexpected[0]) + '"';
-  if (dynamic_cast<const CLI::ArgumentMismatch*>(&error) != nullptr) return "--output: a file name is needed";
+  if (dynamic_cast<const CLI::ArgumentMismatch*>(&error) != nullptr) return optionWithoutValue(error.what());
   return hasCommand ? error.what() : "a command is needed";
 }
 

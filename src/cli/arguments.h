@@ -14,6 +14,7 @@ struct Arguments {
   std::string problem;
   std::string output;               // empty: none
   std::vector<std::string> values;  // of the point to evaluate
+  CommandOptions options;
 };
 
 /// Either arguments to run with or, where there is an exit code, the text to leave the user with: help or version for

@@ -1,30 +1,13 @@
 #include "cli/commands.h"
 
-#include "cli/fitting.h"
 #include "cli/output.h"
 #include "cli/problem_files.h"
 #include "model/capture_specs.h"
 #include "report/listing.h"
-#include "report/no_fit_text.h"
 #include "report/report_lines.h"
 #include "runtime/failure.h"
 
 namespace tavimor {
-
-ExitCode fitCommand(const std::string& problem, const std::string& output) {
-  OpenedProblem opened = openShowingProgress(problem);
-  const FitOutcome outcome = fitShowingProgress(opened);
-  if (outcome.end == FitEnd::Singular)
-    printLine(kSingularMatrix);
-  else if (outcome.end != FitEnd::Found)
-    complain(problem, reasonForNoFit(opened.problem, outcome));
-  else
-    ShowResults(opened.problem, opened.fit, printLine);
-  finishOutput();
-  if (outcome.end != FitEnd::Found) return ExitCode::NoFit;
-  if (!output.empty()) saveShowingProgress(opened, output);
-  return ExitCode::Success;
-}
 
 ExitCode showCommand(const std::string& problem) {
   const OpenedProblem opened = openShowingProgress(problem);

@@ -1,10 +1,14 @@
 #include <cstdio>
+#include <functional>
+#include <optional>
 
 #include "cli/commands.h"
+#include "cli/estimate_intervals.h"
 #include "cli/fitting.h"
 #include "cli/input_lines.h"
 #include "cli/output.h"
 #include "cli/point.h"
+#include "cli/problem_changes.h"
 #include "cli/problem_files.h"
 #include "engine/polynomial.h"
 #include "platform/terminal.h"
@@ -50,13 +54,15 @@ PerVariable<double> pointFromArguments(const Problem& problem, const std::vector
   return point;
 }
 
+// Prints what is asked for at a point.
+using PrintPoint = std::function<void(const PerVariable<double>& point)>;
+
 void printEstimate(const OpenedProblem& opened, const PerVariable<double>& point) {
   const Problem& problem = opened.problem;
   printLine(numberText(valueAt(opened.fit.Coef, problem.TrigFlag, offsetsFrom(problem.Centre, point))));
 }
 
-void evaluateInput(const OpenedProblem& opened) {
-  const Problem& problem = opened.problem;
+void evaluateInput(const Problem& problem, const PrintPoint& print) {
   if (standardInputIsTerminal()) std::fprintf(stderr, "Type points, one a line: %s.\n", expectedPoint(problem).c_str());
   // The estimates of all lines that have come are seen before the program waits for the next one.
   InputLines lines(finishOutput);
@@ -72,7 +78,7 @@ void evaluateInput(const OpenedProblem& opened) {
       throw BadFile("standard input", number, expectedPoint(problem),
                     isTooLong ? "a line that is too long" : quoted(found));
     }
-    printEstimate(opened, *point);
+    print(*point);
   }
 }
 
@@ -87,15 +93,28 @@ bool provideFit(OpenedProblem& opened, const std::string& path) {
 
 }  // namespace
 
-ExitCode evalCommand(const std::string& problem, const std::vector<std::string>& values) {
+ExitCode evalCommand(const std::string& problem, const std::vector<std::string>& values,
+                     const CommandOptions& options) {
   OpenedProblem opened = openShowingProgress(problem);
+  const double level = intervalLevel(options);
   PerVariable<double> point{};
   if (!values.empty()) point = pointFromArguments(opened.problem, values);
-  if (!provideFit(opened, problem)) return ExitCode::NoFit;
+  PrintPoint print = [&](const PerVariable<double>& at) { printEstimate(opened, at); };
+  std::optional<EstimateIntervals> intervals;
+  if (options.interval) {
+    intervals.emplace(opened, level);
+    if (!intervals->isKnown()) {
+      complain(problem, "no intervals: " + intervals->reason());
+      return ExitCode::NoFit;
+    }
+    print = [&](const PerVariable<double>& at) { printLine(intervals->lineAt(at)); };
+  } else if (!provideFit(opened, problem)) {
+    return ExitCode::NoFit;
+  }
   if (values.empty())
-    evaluateInput(opened);
+    evaluateInput(opened.problem, print);
   else
-    printEstimate(opened, point);
+    print(point);
   finishOutput();
   return ExitCode::Success;
 }

@@ -14,9 +14,11 @@ namespace {
 using namespace tavimor;
 
 ExitCode run(const Arguments& arguments) {
-  if (arguments.command == "fit") return fitCommand(arguments.problem, arguments.output);
+  if (arguments.command == "fit") return fitCommand(arguments.problem, arguments.output, arguments.options);
   if (arguments.command == "show") return showCommand(arguments.problem);
-  if (arguments.command == "eval") return evalCommand(arguments.problem, arguments.values);
+  if (arguments.command == "eval") return evalCommand(arguments.problem, arguments.values, arguments.options);
+  if (arguments.command == "analyse") return analyseCommand(arguments.problem, arguments.options);
+  if (arguments.command == "degrees") return degreesCommand(arguments.problem, arguments.options);
   if (arguments.command == "report") return reportCommand(arguments.problem);
   return copyCommand(arguments.problem, arguments.output);
 }

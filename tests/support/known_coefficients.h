@@ -59,6 +59,19 @@ inline KnownResult knownResult(const std::string& table) {
   return result;
 }
 
+/// The certified standard deviations of the coefficients of a table.
+inline Coefficients certifiedDeviations(const std::string& table) {
+  std::ifstream file(TAVIMOR_SOURCE_DIR "/examples/data/known_coefficients.csv");
+  Coefficients result;
+  for (std::string line; std::getline(file, line);) {
+    const std::vector<std::string> row = known_detail::fields(line);
+    if (row[0] == table && row.size() > 7 && !row[2].empty())
+      result[{std::stoi(row[2]), std::stoi(row[3]), std::stoi(row[4]), std::stoi(row[5])}] =
+          known_detail::number(row[7]);
+  }
+  return result;
+}
+
 /// The same polynomial in powers of (x_k - to) instead of (x_k - from), by the binomial theorem.
 inline Coefficients expandedAbout(const Coefficients& given, Long k, long double from, long double to) {
   Coefficients result;

@@ -1,0 +1,49 @@
+#include "cli/analysis_arguments.h"
+
+#include <CLI/CLI.hpp>
+
+namespace tavimor {
+
+namespace {
+
+void addChanges(CLI::App& command, CommandOptions& options) {
+  command.add_option("--degree", options.degrees, "degrees in the place of the problem's, \"2,1\"")->type_name("D,...");
+  command.add_option("--centre,--center", options.centres, "centres in the place of the problem's, * for the middle")
+      ->type_name("C,...");
+}
+
+void addLevel(CLI::App& command, CommandOptions& options) {
+  command.add_option("--level", options.level, "the level of intervals, between 0 and 1 (0.95)")->type_name("LEVEL");
+}
+
+void addReading(CLI::App& command, CommandOptions& options) {
+  command.add_flag("--as-stored", options.asStored,
+                   "take the data for the doubles that they are, not for the decimals");
+  command.add_flag("--json", options.json, "print a JSON object");
+}
+
+}  // namespace
+
+void addAnalysisOptions(CLI::App& app, CommandOptions& options) {
+  CLI::App& fit = *app.get_subcommand("fit");
+  addChanges(fit, options);
+  fit.add_flag("--precise", options.precise, "list and save the exact least-squares solution");
+  fit.add_flag("--no-check", options.noCheck, "do not look how many digits are right");
+
+  CLI::App& analyse = *app.get_subcommand("analyse");
+  analyse.alias("analyze");
+  addChanges(analyse, options);
+  addLevel(analyse, options);
+  addReading(analyse, options);
+
+  CLI::App& degrees = *app.get_subcommand("degrees");
+  degrees.add_option("--max", options.most, "the largest degrees (two more than the problem's)")->type_name("D,...");
+  degrees.add_flag("--all", options.all, "also the combinations that another one beats in terms and in s");
+  addReading(degrees, options);
+
+  CLI::App& eval = *app.get_subcommand("eval");
+  eval.add_flag("--interval", options.interval, "precise estimate, standard error, confidence and prediction interval");
+  addLevel(eval, options);
+}
+
+}  // namespace tavimor

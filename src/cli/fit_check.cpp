@@ -1,0 +1,33 @@
+#include "cli/fit_check.h"
+
+#include "analysis/right_digits.h"
+#include "analysis/second_opinion.h"
+#include "cli/problem_changes.h"
+
+namespace tavimor {
+
+namespace {
+
+std::string whereMoreIsTold(const std::string& path) { return "; \"tavimor-cli analyse " + path + "\" tells more"; }
+
+std::string fewDigitsText(double digits) {
+  const int shown = shownDigits(digits);
+  if (shown == 0) return "no digit of the worst coefficient is right";
+  return "only " + std::to_string(shown) + (shown == 1 ? " digit" : " digits") + " of the worst coefficient " +
+         (shown == 1 ? "is" : "are") + " right";
+}
+
+}  // namespace
+
+std::optional<std::string> warningOf(const OpenedProblem& opened, const std::string& path) {
+  const SecondOpinion opinion = secondOpinionOn(opened.problem, Reading::AsTyped, centresFromFields(opened));
+  const Finding& finding = opinion.precise.finding;
+  if (finding.verdict == Verdict::NotDetermined)
+    return "the data determine no fit: " + reasonText(finding, opened.problem) + whereMoreIsTold(path);
+  if (!opinion.isExact() || !opened.fit.FitDone) return std::nullopt;
+  const double digits = listedDigits(opened.fit, opinion.precise).worst;
+  if (digits >= kFewDigits) return std::nullopt;
+  return fewDigitsText(digits) + whereMoreIsTold(path);
+}
+
+}  // namespace tavimor
