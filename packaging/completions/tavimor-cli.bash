@@ -14,12 +14,12 @@ _tavimor_cli_files() {
   mapfile -t COMPREPLY < <(compgen -f -- "$1")
 }
 
-# How many words stand between the command and the cursor, options and the name behind -o apart.
+# How many words stand between the command and the cursor, options and what belongs to them apart.
 _tavimor_cli_position() {
   local index position=0
   for ((index = 2; index < COMP_CWORD; ++index)); do
     case ${COMP_WORDS[index]} in
-      -o | --output) ((++index)) ;;
+      -o | --output | --degree | --centre | --center | --level | --max) ((++index)) ;;
       -*) ;;
       *) ((++position)) ;;
     esac
@@ -31,14 +31,19 @@ _tavimor_cli() {
   local word=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD - 1]} command=${COMP_WORDS[1]}
   COMPREPLY=()
   if ((COMP_CWORD == 1)); then
-    mapfile -t COMPREPLY < <(compgen -W 'fit show eval report copy --help --version' -- "$word")
+    mapfile -t COMPREPLY < <(compgen -W 'fit show eval analyse degrees report copy --help --version' -- "$word")
   elif [[ $command = fit && ($before = -o || $before = --output) ]]; then
     _tavimor_cli_files "$word"
   elif [[ $word = -* ]]; then
     local options=--help
-    if [[ $command = fit ]]; then options='--output --help'; fi
+    case $command in
+      fit) options='--output --degree --centre --precise --no-check --help' ;;
+      eval) options='--interval --level --help' ;;
+      analyse) options='--level --as-stored --centre --degree --json --help' ;;
+      degrees) options='--max --all --as-stored --json --help' ;;
+    esac
     mapfile -t COMPREPLY < <(compgen -W "$options" -- "$word")
-  elif [[ $command = @(fit|show|eval|report|copy) ]]; then
+  elif [[ $command = @(fit|show|eval|analyse|degrees|report|copy) ]]; then
     case $(_tavimor_cli_position) in
       0) _tavimor_cli_problems "$word" ;;
       1) if [[ $command = copy ]]; then _tavimor_cli_files "$word"; fi ;;

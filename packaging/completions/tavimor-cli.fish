@@ -9,12 +9,12 @@ function __tavimor_cli_problems
     end
 end
 
-# Whether so many words stand between the command and the cursor, options and the name behind -o apart.
+# Whether so many words stand between the command and the cursor, options and what belongs to them apart.
 function __tavimor_cli_position -a expected
     set -l position 0
     set -l before
     for word in (commandline -opc)[3..]
-        if not string match -q -- '-*' $word; and not contains -- "$before" -o --output
+        if not string match -q -- '-*' $word; and not contains -- "$before" -o --output --degree --centre --center --level --max
             set position (math $position + 1)
         end
         set before $word
@@ -28,9 +28,21 @@ complete -c tavimor-cli -n __fish_use_subcommand -l version -d 'Print the versio
 complete -c tavimor-cli -n __fish_use_subcommand -a fit -d 'Fit the problem and print the results listing'
 complete -c tavimor-cli -n __fish_use_subcommand -a show -d 'Print the specifications and the stored results'
 complete -c tavimor-cli -n __fish_use_subcommand -a eval -d 'Print the estimate at a point'
+complete -c tavimor-cli -n __fish_use_subcommand -a analyse -d 'Tell how many digits of a fit are right'
+complete -c tavimor-cli -n __fish_use_subcommand -a degrees -d 'Tell how well each combination of degrees would fit'
 complete -c tavimor-cli -n __fish_use_subcommand -a report -d 'Print the report'
 complete -c tavimor-cli -n __fish_use_subcommand -a copy -d 'Save the problem under another name'
 complete -c tavimor-cli -n '__fish_seen_subcommand_from fit' -s o -l output -r -F -d 'Save the fitted problem'
-complete -c tavimor-cli -n '__fish_seen_subcommand_from fit show eval report copy; and __tavimor_cli_position 0' \
+complete -c tavimor-cli -n '__fish_seen_subcommand_from fit' -l precise -d 'List and save the exact solution'
+complete -c tavimor-cli -n '__fish_seen_subcommand_from fit' -l no-check -d 'Do not look how many digits are right'
+complete -c tavimor-cli -n '__fish_seen_subcommand_from fit analyse' -l degree -x -d 'Other degrees'
+complete -c tavimor-cli -n '__fish_seen_subcommand_from fit analyse' -l centre -x -d 'Other centres'
+complete -c tavimor-cli -n '__fish_seen_subcommand_from analyse eval' -l level -x -d 'The level of intervals'
+complete -c tavimor-cli -n '__fish_seen_subcommand_from eval' -l interval -d 'Add intervals'
+complete -c tavimor-cli -n '__fish_seen_subcommand_from analyse degrees' -l as-stored -d 'Take the data for doubles'
+complete -c tavimor-cli -n '__fish_seen_subcommand_from analyse degrees' -l json -d 'Print a JSON object'
+complete -c tavimor-cli -n '__fish_seen_subcommand_from degrees' -l max -x -d 'The largest degrees'
+complete -c tavimor-cli -n '__fish_seen_subcommand_from degrees' -l all -d 'All combinations'
+complete -c tavimor-cli -n '__fish_seen_subcommand_from fit show eval analyse degrees report copy; and __tavimor_cli_position 0' \
     -a '(__tavimor_cli_problems)'
 complete -c tavimor-cli -n '__fish_seen_subcommand_from copy; and __tavimor_cli_position 1' -F

@@ -22,9 +22,10 @@ PairTable summedSquares(const PairTable& z) {
   return sums;
 }
 
-// Residuals of the size of the rounding of a value to 15 digits.
+// Residuals of the size of the rounding of a value to 15 digits. As many terms as points reach anything.
 bool reachesRounding(const FitStatistics& statistics, double squares) {
   constexpr double rounding = 1e-15;
+  if (statistics.noFreedom) return false;
   return statistics.residualsAreZero || statistics.rss <= rounding * rounding * squares;
 }
 

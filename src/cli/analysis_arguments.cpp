@@ -31,7 +31,6 @@ void addAnalysisOptions(CLI::App& app, CommandOptions& options) {
   fit.add_flag("--no-check", options.noCheck, "do not look how many digits are right");
 
   CLI::App& analyse = *app.get_subcommand("analyse");
-  analyse.alias("analyze");
   addChanges(analyse, options);
   addLevel(analyse, options);
   addReading(analyse, options);

@@ -71,13 +71,20 @@ bool isNegativeNumber(const std::string& word) {
 bool isHelp(const std::string& word) { return word == "-h" || word == "--help"; }
 
 // The parser would take "-.5" and "-INF" for options. Behind "--" every word is taken as it stands; it has to come
-// before the first value, because the parser ends a command at a "--" within a list.
+// before the first value, because the parser ends a command at a "--" within a list; options come before it.
 void protectNegativeNumbers(std::vector<std::string>& words) {
   if (words.empty() || words.front() != "eval") return;
   if (std::none_of(words.begin(), words.end(), isNegativeNumber)) return;
   if (std::any_of(words.begin(), words.end(), isHelp)) return;
-  std::erase(words, "--");
-  words.insert(words.begin() + 1, "--");
+  std::vector<std::string> options = {words.front()}, others = {"--"};
+  for (std::size_t n = 1; n < words.size(); ++n) {
+    if (words[n] == "--") continue;
+    const bool isOption = words[n].starts_with("--");
+    (isOption ? options : others).push_back(words[n]);
+    if (words[n] == "--level" && n + 1 < words.size()) options.push_back(words[++n]);
+  }
+  words = std::move(options);
+  words.insert(words.end(), others.begin(), others.end());
 }
 
 // The parser names the option first.
@@ -114,6 +121,7 @@ ParsedArguments parseArguments(std::vector<std::string> words) {
   app.require_subcommand(1);
   addCommands(app, parsed.arguments);
 
+  if (!words.empty() && words.front() == "analyze") words.front() = "analyse";
   protectNegativeNumbers(words);
   std::reverse(words.begin(), words.end());  // the order in which the parser takes them
   try {

@@ -59,6 +59,12 @@ TEST(DegreeMap, RecommendsTheSmallestCombinationThatExactDataNeed) {
   EXPECT_EQ(map.recommended().degrees, (PerVariable<Long>{2, 1, 0, 0}));
 }
 
+TEST(DegreeMap, DoesNotRecommendAsManyTermsAsPoints) {
+  Dimension model = test::problem({{"x", {0, 1, 2, 3, 4}, 4, 0}});
+  test::tabulate(model, [](double x, double, double, double) { return std::sqrt(x); });
+  EXPECT_LT(Map(model).recommended().degrees[0], 4);
+}
+
 TEST(DegreeMap, LeavesOutWhatAnotherCombinationBeats) {
   const Map map(surface(3, 0.01));
   for (const DegreeCombination& one : map.all) {
@@ -88,7 +94,7 @@ TEST(DigitPredictor, ForetellsWhatTheFixedOrderKeeps) {
           worst = std::min(worst, rightDigits(example.model.Coef.data()[n], fit.coefficients[n].solution));
       const double predicted = DigitPredictor(data, decomposition, centresOf(data)).worstDigits(decomposition.z.extent);
       ++tried;
-      within += std::fabs(predicted - worst) <= 1.5 ? 1 : 0;
+      within += predicted - worst <= 0.6 && predicted - worst >= -2.2 ? 1 : 0;
       RecordProperty(name, std::to_string(predicted - worst));
     }
   EXPECT_EQ(within, tried);

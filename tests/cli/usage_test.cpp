@@ -30,6 +30,8 @@ std::vector<UsageCase> usageCases() {
       {"AnEmptyTarget", {"copy", "p", ""}, "OUT: a file name is needed", "tavimor-cli copy"},
       {"AnEmptyOutput", {"fit", "p", "-o", ""}, "--output: a file name is needed", "tavimor-cli fit"},
       {"AnOutputWithoutAName", {"fit", "p", "-o"}, "--output: a file name is needed", "tavimor-cli fit"},
+      {"ADegreeWithoutANumber", {"fit", "p", "--degree"}, "--degree: a value is needed", "tavimor-cli fit"},
+      {"AnUnknownOptionOfAnalyse", {"analyse", "p", "--frob"}, "unexpected argument \"--frob\"", "tavimor-cli analyse"},
       {"AnOptionAmongValues", {"eval", "p", "1", "-x"}, "unexpected argument \"-x\"", "tavimor-cli eval"},
   };
 }
@@ -60,13 +62,14 @@ TEST_P(HelpOfCommand, ShowsItsUseAndAnExample) {
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(Commands, HelpOfCommand, testing::Values("fit", "show", "eval", "report", "copy"));
+INSTANTIATE_TEST_SUITE_P(Commands, HelpOfCommand,
+                         testing::Values("fit", "show", "eval", "analyse", "degrees", "report", "copy"));
 
 TEST(Help, ListsTheCommandsWithAnExampleOfEach) {
   const Outcome outcome = tavimorCli({"--help"});
   EXPECT_EQ(outcome.exitCode, 0);
   EXPECT_EQ(outcome.err, "");
-  for (const std::string command : {"fit", "show", "eval", "report", "copy"})
+  for (const std::string command : {"fit", "show", "eval", "analyse", "degrees", "report", "copy"})
     EXPECT_THAT(outcome.out, AllOf(HasSubstr("\n  " + command + " "), HasSubstr("\n  tavimor-cli " + command + " ")));
 }
 
