@@ -1,15 +1,11 @@
 // Measures the plain loops and the engine in turn, in one run, and prints ratios: these machines are noisy, and a
 // ratio of neighbours in time says more than two times. Each number is the median over the pairs.
 //   bench-ratios FOLDER-OF-PROGRAMS FOLDER-OF-PROBLEMS
-#include <algorithm>
-#include <chrono>
 #include <cstdio>
-#include <functional>
-#include <stdexcept>
-#include <string>
 #include <vector>
 
 #include "engine/right_hand_side.h"
+#include "measure.h"
 #include "peak.h"
 #include "plain_problem.h"
 #include "problem_sizes.h"
@@ -20,17 +16,6 @@ using namespace tavimor;
 using namespace tavimor::bench;
 
 constexpr int kPairs = 15;
-
-double secondsOf(const std::function<void()>& work) {
-  const auto start = std::chrono::steady_clock::now();
-  work();
-  return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
-}
-
-double median(std::vector<double> values) {
-  std::sort(values.begin(), values.end());
-  return values[values.size() / 2];
-}
 
 const char* nameOf(InstructionSet set) {
   switch (set) {
@@ -57,29 +42,6 @@ void compareRightHandSides(const ProblemSize& size, double peak) {
   std::printf("%-4s right-hand side, 1 thread: plain / ours %5.1f   share of the peak %3.0f %%\n", size.name,
               median(ratios), 100 * median(shares));
 }
-
-// What a process took: its time from start to end, and the most memory that it held.
-struct ProcessCost {
-  double seconds = 0.0;
-  long kilobytes = 0;
-};
-
-struct Programs {
-  std::string folder;
-  std::string problems;
-
-  ProcessCost cost(const std::string& program, const std::string& arguments) const {
-    const std::string command = folder + "/process-cost " + folder + "/" + program + " " + arguments;
-    std::FILE* output = popen(command.c_str(), "r");
-    ProcessCost cost;
-    const bool read = output != nullptr && std::fscanf(output, "%lf %ld", &cost.seconds, &cost.kilobytes) == 2;
-    if (!read || pclose(output) != 0) throw std::runtime_error("cannot run " + command);
-    return cost;
-  }
-
-  ProcessCost plain(const ProblemSize& size) const { return cost("plain-fit", problems + "/" + size.name); }
-  ProcessCost ours(const ProblemSize& size) const { return cost("tavimor-cli", "fit " + problems + "/" + size.name); }
-};
 
 void compareProcesses(const ProblemSize& size, const Programs& programs) {
   std::vector<double> ratios, memory, plainTimes, ourTimes;
