@@ -103,7 +103,7 @@ class RoleFinder {
       roles_.variables = candidates;
       return;
     }
-    roles_.variables = fullestGrid(candidates);
+    roles_.variables = makeAsManyPointsAsRows(candidates) ? candidates : fullestGrid(candidates);
     if (!roles_.variables.empty()) return;
     const std::size_t first = candidates.front();
     const bool eachOnce = valuesOf(first).values.size() == table_.rows();
@@ -118,7 +118,18 @@ class RoleFinder {
     }
   }
 
-  static bool isInOrder(const std::vector<std::uint32_t>& index) {
+  // Then nothing speaks for fewer columns.
+  bool makeAsManyPointsAsRows(const Columns& columns) {
+    return columns.size() <= kMaxVariables && gridSizeOf(columns) == static_cast<double>(table_.rows());
+  }
+
+  double gridSizeOf(const Columns& columns) {
+    double size = 1.0;
+    for (const std::size_t column : columns) size *= static_cast<double>(valuesOf(column).values.size());
+    return size;
+  }
+
+  static bool isInOrder(const LargeList<std::uint32_t>& index) {
     return std::is_sorted(index.begin(), index.end()) || std::is_sorted(index.rbegin(), index.rend());
   }
 
@@ -149,8 +160,7 @@ class RoleFinder {
 
   // The part of the grid that is there, or, where that is less, the part of the rows that are different points.
   double fillOf(const Columns& columns) {
-    double size = 1.0;
-    for (const std::size_t column : columns) size *= static_cast<double>(valuesOf(column).values.size());
+    const double size = gridSizeOf(columns);
     const auto rows = static_cast<double>(table_.rows());
     if (size * kLeastFill > rows) return 0.0;
     const auto different = static_cast<double>(differentPoints(columns, static_cast<std::size_t>(size)));

@@ -53,7 +53,7 @@ std::vector<std::uint32_t> ascending(const std::vector<double>& values) {
   return order;
 }
 
-std::vector<std::size_t> frequencies(const std::vector<std::uint32_t>& index, std::size_t values) {
+std::vector<std::size_t> frequencies(const LargeList<std::uint32_t>& index, std::size_t values) {
   std::vector<std::size_t> frequency(values);
   for (const std::uint32_t i : index)
     if (i != kNoIndex) ++frequency[i];
@@ -70,7 +70,7 @@ MergedValues mergedGroup(const std::vector<double>& found, const std::vector<std
 }
 
 // The column's index numbers the values as they were found; returns those values.
-std::vector<double> numberValues(std::span<const double> numbers, std::vector<std::uint32_t>& index) {
+std::vector<double> numberValues(std::span<const double> numbers, LargeList<std::uint32_t>& index) {
   NumberedValues found;
   double before = 0.0;
   std::uint32_t numberBefore = kNoIndex;

@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+#include "formats/tables/large_list.h"
+
 namespace tavimor {
 
 /// In the place of an index where a row has no number.
@@ -20,7 +22,7 @@ struct MergedValues {
 /// The different values of a column, ascending, and which of them stands in each row.
 struct ColumnValues {
   std::vector<double> values;
-  std::vector<std::uint32_t> index;  // of each row; kNoIndex where it has no number
+  LargeList<std::uint32_t> index;  // of each row; kNoIndex where it has no number
   std::vector<MergedValues> merged;
 };
 

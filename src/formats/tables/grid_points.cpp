@@ -29,7 +29,7 @@ std::size_t differentPointsWithout(const GridPoints& points, std::size_t variabl
   return static_cast<std::size_t>(std::unique(numbers.begin(), numbers.end()) - numbers.begin());
 }
 
-bool riseOrFallTogether(const std::vector<std::uint32_t>& index, const std::vector<std::uint32_t>& from) {
+bool riseOrFallTogether(const LargeList<std::uint32_t>& index, const LargeList<std::uint32_t>& from) {
   std::vector<std::uint32_t> order(index.size());
   std::iota(order.begin(), order.end(), 0);
   std::sort(order.begin(), order.end(), [&](std::uint32_t a, std::uint32_t b) { return from[a] < from[b]; });
@@ -135,8 +135,7 @@ double functionAt(const GridPoints& points, const SortedPoints& sorted, std::siz
   return allEqual ? first : sum / static_cast<double>(sorted.rowsOf(n));
 }
 
-bool follows(const std::vector<std::uint32_t>& index, const std::vector<std::uint32_t>& from,
-             std::size_t valuesOfFrom) {
+bool follows(const LargeList<std::uint32_t>& index, const LargeList<std::uint32_t>& from, std::size_t valuesOfFrom) {
   std::vector<std::uint32_t> indexAt(valuesOfFrom, kNoIndex);
   std::size_t rows = 0;
   for (std::size_t row = 0; row < index.size(); ++row) {

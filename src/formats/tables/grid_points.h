@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "formats/tables/large_list.h"
 #include "formats/tables/table_findings.h"
 #include "model/table4.h"
 
@@ -15,13 +16,13 @@ struct GridPoints {
   struct Variable {
     std::string name;
     ColumnLabel column;
-    std::vector<double> values;        // ascending
-    std::vector<std::uint32_t> index;  // of each row
+    std::vector<double> values;      // ascending
+    LargeList<std::uint32_t> index;  // of each row
   };
 
   std::vector<Variable> variables;  // one to four
-  std::vector<double> function;     // of each row
-  std::vector<std::uint32_t> lines;
+  LargeList<double> function;       // of each row
+  LargeList<std::uint32_t> lines;
 
   std::size_t rows() const { return function.size(); }
 };
@@ -69,6 +70,6 @@ std::optional<DependentVariable> findDependentVariable(const GridPoints& points,
 
 /// Whether rows with one index of `from` always have one index of `index`. A column whose values all differ says that
 /// of any other: then both must rise or fall together, in four rows at least.
-bool follows(const std::vector<std::uint32_t>& index, const std::vector<std::uint32_t>& from, std::size_t valuesOfFrom);
+bool follows(const LargeList<std::uint32_t>& index, const LargeList<std::uint32_t>& from, std::size_t valuesOfFrom);
 
 }  // namespace tavimor

@@ -13,6 +13,7 @@ namespace tavimor {
 namespace {
 
 constexpr std::size_t kRowsBetweenProgress = 1 << 16;
+constexpr std::size_t kSampleBytes = 1 << 16;
 
 bool isDigit(char c) { return c >= '0' && c <= '9'; }
 
@@ -29,25 +30,54 @@ const char* afterLineEnd(const char* at, const char* last) {
   return *at == '\n' ? at + 1 : nullptr;
 }
 
-// Reads a line that holds exactly `columns` finite numbers into `row`. Returns the place behind it, null for any other
-// line.
-const char* readPlainRow(const char* at, const char* last, char separator, std::size_t columns, double* row) {
-  for (std::size_t k = 0; k < columns; ++k) {
-    const char* const cell = afterBlanks(at, last, separator);
+// The rows from one line to the next: in most tables one column keeps its text for a while.
+class PlainRows {
+ public:
+  PlainRows(char separator, std::size_t columns) : separator_(separator), cells_(columns), row_(columns) {}
+
+  // Reads a line that holds exactly the columns' finite numbers. Returns the place behind it, null for any other line.
+  const char* read(const char* at, const char* last) {
+    for (std::size_t k = 0; k < row_.size(); ++k) {
+      at = readCell(afterBlanks(at, last, separator_), last, k);
+      if (at == nullptr) return nullptr;
+      const char* const end = at;
+      at = afterBlanks(at, last, separator_);
+      if (k + 1 == row_.size()) break;
+      if (separator_ == kBlanks) {
+        if (at == end) return nullptr;
+      } else {
+        if (at == last || *at != separator_) return nullptr;
+        ++at;
+      }
+    }
+    return afterLineEnd(at, last);
+  }
+
+  // The cells above are to be forgotten where their text goes.
+  void forgetCells() { std::fill(cells_.begin(), cells_.end(), std::string_view()); }
+
+  const std::vector<double>& row() const { return row_; }
+
+ private:
+  const char* readCell(const char* cell, const char* last, std::size_t k) {
+    const std::string_view above = cells_[k];
+    const char* const end = cell + above.size();
+    if (!above.empty() && last - cell > std::ssize(above) && std::memcmp(cell, above.data(), above.size()) == 0 &&
+        endsNumber(*end))
+      return end;
     const Numeral numeral = scanNumeral(cell, last);
     if (numeral.end == cell || !std::isfinite(numeral.value)) return nullptr;
-    row[k] = numeral.value;
-    at = afterBlanks(numeral.end, last, separator);
-    if (k + 1 == columns) break;
-    if (separator == kBlanks) {
-      if (at == numeral.end) return nullptr;
-    } else {
-      if (at == last || *at != separator) return nullptr;
-      ++at;
-    }
+    row_[k] = numeral.value;
+    cells_[k] = {cell, numeral.end};
+    return numeral.end;
   }
-  return afterLineEnd(at, last);
-}
+
+  bool endsNumber(char c) const { return c == separator_ || c == ' ' || c == '\t' || c == '\r' || c == '\n'; }
+
+  char separator_;
+  std::vector<std::string_view> cells_;  // the text of each number in `row_`
+  std::vector<double> row_;
+};
 
 // Whether a number can have commas between its thousands: one to three digits that do not begin with 0, then three
 // behind each comma and no more; without a comma, three digits at most. Anything else is told from thousands by sight.
@@ -86,11 +116,9 @@ class ColumnReader {
         first_(text.data()),
         records_(text, recognised.format.separator),
         splitter_(recognised.format.separator),
-        row_(recognised.columns) {
+        plain_(recognised.format.separator, recognised.columns) {
     table_.columns.resize(recognised.columns);
-    const auto lines = static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n')) + 1;
-    table_.lines.reserve(lines);
-    for (TableColumn& column : table_.columns) column.numbers.reserve(lines);
+    reserve(expectedRows(text));
     TableRecord head;
     for (std::size_t n = 0; n < recognised.recordsOfHead; ++n) records_.next(head);
   }
@@ -108,17 +136,29 @@ class ColumnReader {
     return static_cast<double>(records_.at() - first_) / static_cast<double>(records_.last() - first_);
   }
 
+  // From the length of the first lines.
+  static std::size_t expectedRows(std::string_view text) {
+    const std::string_view beginning = text.substr(0, kSampleBytes);
+    const auto lines = static_cast<std::size_t>(std::count(beginning.begin(), beginning.end(), '\n')) + 1;
+    return text.size() / beginning.size() * lines + lines;
+  }
+
+  void reserve(std::size_t rows) {
+    table_.lines.reserve(rows);
+    for (TableColumn& column : table_.columns) column.numbers.reserve(rows);
+  }
+
   bool readOneRow() {
     const char* behind = format_.mark == DecimalMark::Point ? plainRow() : plainRowWithCommas();
     if (behind == nullptr) return readRecord();
-    addRow(records_.line());
+    addRow(plain_.row(), records_.line());
     records_.moveTo(behind, 1);
     return true;
   }
 
   const char* plainRow() {
     if (records_.at() == records_.last()) return nullptr;
-    return readPlainRow(records_.at(), records_.last(), format_.separator, row_.size(), row_.data());
+    return plain_.read(records_.at(), records_.last());
   }
 
   // The line with points for commas, where that is all that tells it from a plain row.
@@ -132,13 +172,13 @@ class ColumnReader {
     if (std::memchr(at, '.', length) != nullptr) return nullptr;
     pointed_.assign(at, length);
     std::replace(pointed_.begin(), pointed_.end(), ',', '.');
+    plain_.forgetCells();
     const char* const last = pointed_.data() + length;
-    return readPlainRow(pointed_.data(), last, format_.separator, row_.size(), row_.data()) == last ? at + length
-                                                                                                    : nullptr;
+    return plain_.read(pointed_.data(), last) == last ? at + length : nullptr;
   }
 
-  void addRow(long line) {
-    for (std::size_t k = 0; k < row_.size(); ++k) table_.columns[k].numbers.push_back(row_[k]);
+  void addRow(const std::vector<double>& row, long line) {
+    for (std::size_t k = 0; k < row.size(); ++k) table_.columns[k].numbers.push_back(row[k]);
     table_.lines.push_back(static_cast<std::uint32_t>(line));
   }
 
@@ -147,12 +187,14 @@ class ColumnReader {
     if (!records_.next(record)) return false;
     const auto& cells = splitter_.split(record);
     if (format_.mark == DecimalMark::Comma && !thousands_.isDecided()) thousands_.look(cells);
-    if (cells.size() != row_.size()) {
-      if (++raggedCount_ <= kMostNamed) table_.ragged.push_back(lineIsRagged(record.line, cells.size(), row_.size()));
+    const std::size_t columns = table_.columns.size();
+    if (cells.size() != columns) {
+      if (++raggedCount_ <= kMostNamed) table_.ragged.push_back(lineIsRagged(record.line, cells.size(), columns));
       return true;
     }
-    for (std::size_t k = 0; k < cells.size(); ++k) row_[k] = numberOrNote(cells[k], record.line, k);
-    addRow(record.line);
+    std::vector<double> row(columns);
+    for (std::size_t k = 0; k < columns; ++k) row[k] = numberOrNote(cells[k], record.line, k);
+    addRow(row, record.line);
     return true;
   }
 
@@ -169,7 +211,7 @@ class ColumnReader {
   const char* first_;
   TableRecords records_;
   CellSplitter splitter_;
-  std::vector<double> row_;
+  PlainRows plain_;
   std::string pointed_;
   TableColumns table_;
   ThousandsWatch thousands_;

@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "formats/tables/large_list.h"
 #include "formats/tables/recognise_table.h"
 #include "formats/tables/table_findings.h"
 
@@ -19,9 +20,9 @@ struct BadCell {
 };
 
 struct TableColumn {
-  std::vector<double> numbers;  // one for each row; NaN where the cell holds none
-  std::vector<BadCell> bad;     // the first kMostNamed cells that hold something else
-  std::vector<BadCell> empty;   // the first kMostNamed that hold nothing
+  LargeList<double> numbers;   // one for each row; NaN where the cell holds none
+  std::vector<BadCell> bad;    // the first kMostNamed cells that hold something else
+  std::vector<BadCell> empty;  // the first kMostNamed that hold nothing
   std::size_t badCount = 0;
   std::size_t emptyCount = 0;
 };
@@ -29,7 +30,7 @@ struct TableColumn {
 /// The numbers of a table, below its head.
 struct TableColumns {
   std::vector<TableColumn> columns;
-  std::vector<std::uint32_t> lines;      // of each row, counted from 1
+  LargeList<std::uint32_t> lines;        // of each row, counted from 1
   std::vector<Finding> ragged;           // lines with another number of columns: they are no rows here
   bool commasMayGroupThousands = false;  // every decimal comma stands before three digits, as in 1,234
 
