@@ -92,7 +92,7 @@ bool sameNumbers(const Reading& a, const Reading& b) {
     std::vector<double> numbers;
     for (const SampleRow& row : reading.rows)
       for (const auto& number : row.numbers)
-        if (number) numbers.push_back(*number);
+        if (number && row.cells.size() == reading.columns) numbers.push_back(*number);
     return numbers;
   };
   return numbersOf(a) == numbersOf(b);
@@ -186,6 +186,16 @@ void findForm(const Reading& reading, const ImportOptions& options, RecognisedTa
   findHead(reading, options.heading, recognised);
 }
 
+std::vector<Finding> raggedHead(const Reading& reading, const RecognisedTable& recognised) {
+  std::vector<Finding> findings;
+  for (std::size_t n = 0; recognised.cross != CrossTable::Certain && n < recognised.recordsOfHead; ++n) {
+    const SampleRow& row = reading.rows[n];
+    if (row.cells.size() != reading.columns)
+      findings.push_back(lineIsRagged(row.line, row.cells.size(), reading.columns));
+  }
+  return findings;
+}
+
 bool isUnsignedWhole(const std::string& cell) {
   return !cell.empty() && std::all_of(cell.begin(), cell.end(), [](char c) { return c >= '0' && c <= '9'; });
 }
@@ -224,10 +234,11 @@ std::vector<Finding> recogniseTable(std::string_view text, const ImportOptions& 
   recognised.format = best->format;
   recognised.columns = best->columns;
   findForm(*best, options, recognised);
-  recognised.commasMayDoTwoThings = commasMayDoTwoThings(*best, recognised.recordsOfHead);
+  recognised.commasMayDoTwoThings =
+      recognised.names.size() != recognised.columns && commasMayDoTwoThings(*best, recognised.recordsOfHead);
   if (recognised.commasMayDoTwoThings && recognised.names.size() == recognised.columns / 2)
     return {commasDoTwoThings()};
-  return {};
+  return raggedHead(*best, recognised);
 }
 
 }  // namespace tavimor

@@ -221,13 +221,15 @@ Finding meansAreTaken(const std::vector<DoublePoint>& first, std::uint64_t count
 Finding pointsAreMissing(const std::vector<std::string>& first, std::uint64_t missing, std::uint64_t all,
                          const std::string& wayOut) {
   return {FindingKind::MissingPoints, "the grid is not full: " + std::to_string(missing) + " of its " +
-                                          countText(all, "point misses", "points miss") + ": " + joined(first, "; ") +
-                                          andMore(first.size(), missing) + "; " + wayOut};
+                                          std::to_string(all) + " points " + (missing == 1 ? "is" : "are") +
+                                          " missing: " + joined(first, "; ") + andMore(first.size(), missing) + "; " +
+                                          wayOut};
 }
 
 Finding pointsAreScattered(std::uint64_t points, const std::string& extents) {
-  return {FindingKind::NoFullGrid, "the points are no grid: " + std::to_string(points) +
-                                       " points would be a few of the " + extents + " that their values make"};
+  return {FindingKind::NoFullGrid, "the points are no grid: of the " + extents +
+                                       " points that their values make only " + std::to_string(points) +
+                                       (points == 1 ? " is" : " are") + " there"};
 }
 
 std::string wayOutText(const std::vector<std::string>& values, std::uint64_t lostPoints, std::uint64_t points) {
