@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "cli/analysis_arguments.h"
+#include "cli/import_arguments.h"
 #include "runtime/numeral.h"
 #include "runtime/text.h"
 
@@ -15,6 +16,8 @@ struct Command {
   const char* name;
   const char* does;
   const char* example;
+  const char* input = "PROBLEM";
+  const char* inputIs = "the specification file; its values stand in PROBLEM.dat";
 };
 
 constexpr Command kCommands[] = {
@@ -25,6 +28,8 @@ constexpr Command kCommands[] = {
     {"degrees", "Tell how well each combination of degrees would fit", "degrees silicon-index --max 5,9"},
     {"report", "Print the report: specifications, results and data", "report ozone-fitted"},
     {"copy", "Open the problem and save it under another name", "copy ozone ozone-2"},
+    {"import", "Make a problem of a table", "import table.csv gauge --degree 2,1", "TABLE",
+     "a file of numbers in columns, or - for standard input"},
 };
 
 std::string exampleLine(const Command& command) { return std::string("tavimor-cli ") + command.example; }
@@ -38,9 +43,7 @@ CLI::App* addCommand(CLI::App& app, Arguments& arguments, const Command& command
   CLI::App* added = app.add_subcommand(command.name, command.does);
   added->group("Commands");
   added->footer("Example:\n  " + exampleLine(command));
-  plainly(added->add_option("PROBLEM", arguments.problem, "the specification file; its values stand in PROBLEM.dat"))
-      ->required()
-      ->check(refusalOfEmptyName);
+  plainly(added->add_option(command.input, arguments.problem, command.inputIs))->required()->check(refusalOfEmptyName);
   return added;
 }
 
@@ -59,6 +62,10 @@ void addCommands(CLI::App& app, Arguments& arguments) {
   plainly(app.get_subcommand("eval")->add_option("VALUE", arguments.values,
                                                  "one value per variable; without any, one point a line is read"));
   addAnalysisOptions(app, arguments.options);
+  plainly(app.get_subcommand("import")->add_option("OUT", arguments.output, "the problem's name: OUT and OUT.dat"))
+      ->required()
+      ->check(refusalOfEmptyName);
+  addImportOptions(*app.get_subcommand("import"), arguments.importing);
   plainly(app.get_subcommand("copy")->add_option("OUT", arguments.output, "the copy's name: OUT and OUT.dat"))
       ->required()
       ->check(refusalOfEmptyName);

@@ -5,6 +5,7 @@
 
 #include "cli/arguments.h"
 #include "cli/commands.h"
+#include "cli/import_command.h"
 #include "cli/output.h"
 #include "platform/held_signals.h"
 #include "runtime/run_time_error.h"
@@ -20,6 +21,7 @@ ExitCode run(const Arguments& arguments) {
   if (arguments.command == "analyse") return analyseCommand(arguments.problem, arguments.options);
   if (arguments.command == "degrees") return degreesCommand(arguments.problem, arguments.options);
   if (arguments.command == "report") return reportCommand(arguments.problem);
+  if (arguments.command == "import") return importCommand(arguments.problem, arguments.output, arguments.importing);
   return copyCommand(arguments.problem, arguments.output);
 }
 

@@ -32,6 +32,19 @@ std::vector<UsageCase> usageCases() {
       {"AnOutputWithoutAName", {"fit", "p", "-o"}, "--output: a file name is needed", "tavimor-cli fit"},
       {"ADegreeWithoutANumber", {"fit", "p", "--degree"}, "--degree: a value is needed", "tavimor-cli fit"},
       {"AnUnknownOptionOfAnalyse", {"analyse", "p", "--frob"}, "unexpected argument \"--frob\"", "tavimor-cli analyse"},
+      {"NoProblemForATable", {"import", "t"}, "OUT is required", "tavimor-cli import"},
+      {"AnUnknownHeader",
+       {"import", "t", "p", "--header", "perhaps"},
+       "--header: perhaps not in {yes,no}",
+       "tavimor-cli import"},
+      {"ADegreeThatIsNoNumber",
+       {"import", "t", "p", "--degree", "two"},
+       "Could not convert: --degree = two",
+       "tavimor-cli import"},
+      {"ASeparatorOfTwoCharacters",
+       {"import", "t", "p", "--separator", "::"},
+       "t: --separator: comma, semicolon, tab, blank or one character",
+       "tavimor-cli import"},
       {"AnOptionAmongValues", {"eval", "p", "1", "-x"}, "unexpected argument \"-x\"", "tavimor-cli eval"},
   };
 }
@@ -69,7 +82,7 @@ TEST(Help, ListsTheCommandsWithAnExampleOfEach) {
   const Outcome outcome = tavimorCli({"--help"});
   EXPECT_EQ(outcome.exitCode, 0);
   EXPECT_EQ(outcome.err, "");
-  for (const std::string command : {"fit", "show", "eval", "analyse", "degrees", "report", "copy"})
+  for (const std::string command : {"fit", "show", "eval", "analyse", "degrees", "report", "copy", "import"})
     EXPECT_THAT(outcome.out, AllOf(HasSubstr("\n  " + command + " "), HasSubstr("\n  tavimor-cli " + command + " ")));
 }
 
