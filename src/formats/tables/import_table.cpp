@@ -22,6 +22,7 @@ class TableImport {
   ImportOutcome run() {
     add(recogniseTable(text_, options_, recognised_));
     outcome_.format = recognised_.format;
+    outcome_.hasHeading = recognised_.headingLine > 0;
     if (!isRefused()) readTable();
     if (!isRefused()) findColumns();
     if (!isRefused()) makeProblem();
@@ -141,10 +142,10 @@ class TableImport {
     GridDiagnosis diagnosis = diagnoseGrid(points, options_.duplicates, options_.gaps);
     add(std::move(diagnosis.findings));
     if (!diagnosis.grid) return;
-    ProblemFromGrid made = problemFromGrid(std::move(*diagnosis.grid), names, options_);
-    add(std::move(made.findings));
-    if (!made.problem) return;
-    outcome_.problem = std::move(made.problem);
+    Problem problem = problemFromGrid(std::move(*diagnosis.grid), names);
+    add(setDegreesAndCentres(problem, options_.degrees, options_.centres));
+    if (isRefused()) return;
+    outcome_.problem = std::move(problem);
     tellVariables();
   }
 

@@ -16,6 +16,7 @@ struct ImportOutcome {
   std::vector<Finding> findings;  // refusals, each with its place, or notes
   TableFormat format;             // as found
   TableForm form = TableForm::List;
+  bool hasHeading = false;
   std::vector<ColumnLabel> columns;    // of a list
   std::vector<std::size_t> variables;  // which of them are the variables, from 0 on
   std::size_t function = 0;

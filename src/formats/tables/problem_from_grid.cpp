@@ -26,6 +26,8 @@ void declareVariable(Problem& problem, Long k, std::vector<double> values) {
   problem.LastPoint[k] = static_cast<Long>(values.size()) - 1;
   problem.Step[k] = (values.back() - values.front()) / problem.LastPoint[k];
   problem.EquallySpaced[k] = isEquallySpaced(values, problem.Step[k]);
+  problem.Degree[k] = 1;
+  problem.Centre[k] = centreFromText("*", problem.LowerLimit[k], problem.UpperLimit[k]);
   problem.ValuesGiven[k] = true;
   problem.PeriodFlag[k] = true;
   valueList(problem, k) = std::move(values);
@@ -33,35 +35,34 @@ void declareVariable(Problem& problem, Long k, std::vector<double> values) {
 
 // What is given for variable k: one entry for each, or one for all.
 template <class T>
-const T& entry(const std::vector<T>& entries, std::size_t k, const T& without) {
-  if (entries.empty()) return without;
+const T& entry(const std::vector<T>& entries, Long k) {
   return entries.size() == 1 ? entries.front() : entries[k];
 }
 
 bool isMiscounted(std::size_t entries, std::size_t variables) { return entries > 1 && entries != variables; }
 
+std::size_t variableCount(const Problem& problem) { return static_cast<std::size_t>(problem.LastVar) + 1; }
+
 void setDegrees(Problem& problem, const std::vector<Long>& degrees, std::vector<Finding>& findings) {
-  const auto variables = static_cast<std::size_t>(problem.LastVar) + 1;
-  if (isMiscounted(degrees.size(), variables)) {
-    findings.push_back(degreesAreMiscounted(degrees.size(), variables));
+  if (isMiscounted(degrees.size(), variableCount(problem))) {
+    findings.push_back(degreesAreMiscounted(degrees.size(), variableCount(problem)));
     return;
   }
-  for (std::size_t k = 0; k < variables; ++k) {
-    problem.Degree[k] = entry(degrees, k, Long{1});
+  for (Long k = 0; k <= problem.LastVar && !degrees.empty(); ++k) {
+    problem.Degree[k] = entry(degrees, k);
     if (problem.Degree[k] < 0 || problem.Degree[k] > problem.LastPoint[k])
-      findings.push_back(
-          degreeIsTooHigh(problem.Degree[k], problem.VarName[k], static_cast<std::size_t>(problem.LastPoint[k]) + 1));
+      findings.push_back(degreeIsTooHigh(problem.Degree[k], problem.VarName[k],
+                                         static_cast<std::size_t>(problem.LastPoint[k]) + 1));
   }
 }
 
 void setCentres(Problem& problem, const std::vector<std::string>& centres, std::vector<Finding>& findings) {
-  const auto variables = static_cast<std::size_t>(problem.LastVar) + 1;
-  if (isMiscounted(centres.size(), variables)) {
-    findings.push_back(centresAreMiscounted(centres.size(), variables));
+  if (isMiscounted(centres.size(), variableCount(problem))) {
+    findings.push_back(centresAreMiscounted(centres.size(), variableCount(problem)));
     return;
   }
-  for (std::size_t k = 0; k < variables; ++k) {
-    const std::string text = entry(centres, k, std::string("*"));
+  for (Long k = 0; k <= problem.LastVar && !centres.empty(); ++k) {
+    const std::string& text = entry(centres, k);
     problem.Centre[k] = centreFromText(text, problem.LowerLimit[k], problem.UpperLimit[k]);
     if (text != "*" && !cellNumber(text, DecimalMark::Point)) findings.push_back(centreIsNoNumber(text));
   }
@@ -86,10 +87,8 @@ std::vector<std::string> variableNames(const std::vector<std::string>& columns) 
   return names;
 }
 
-ProblemFromGrid problemFromGrid(GridFunction grid, const std::vector<std::string>& names,
-                                const ImportOptions& options) {
-  ProblemFromGrid made;
-  Problem& problem = made.problem.emplace();
+Problem problemFromGrid(GridFunction grid, const std::vector<std::string>& names) {
+  Problem problem;
   problem.LastVar = static_cast<Long>(names.size()) - 1;
   problem.NumGridPoints = 1;
   for (Long k = 0; k <= problem.LastVar; ++k) {
@@ -98,10 +97,15 @@ ProblemFromGrid problemFromGrid(GridFunction grid, const std::vector<std::string
     problem.NumGridPoints = multiplyLongs(problem.NumGridPoints, problem.LastPoint[k] + 1);
   }
   problem.F = std::move(grid.F);
-  setDegrees(problem, options.degrees, made.findings);
-  setCentres(problem, options.centres, made.findings);
-  if (anyRefusal(made.findings)) made.problem.reset();
-  return made;
+  return problem;
+}
+
+std::vector<Finding> setDegreesAndCentres(Problem& problem, const std::vector<Long>& degrees,
+                                          const std::vector<std::string>& centres) {
+  std::vector<Finding> findings;
+  setDegrees(problem, degrees, findings);
+  setCentres(problem, centres, findings);
+  return findings;
 }
 
 }  // namespace tavimor

@@ -10,15 +10,15 @@
 
 namespace tavimor {
 
-/// A problem as the window would have it after its fields are captured.
-struct ProblemFromGrid {
-  std::optional<Problem> problem;  // nothing where a degree or a centre is refused
-  std::vector<Finding> findings;
-};
+/// Makes a problem of a function on a full grid, as the window would have it after its fields are captured, of degree 1
+/// about the middle of each interval. The limits are the lowest and the highest value of each variable; values that are
+/// exactly lower + i * step are marked equally spaced.
+Problem problemFromGrid(GridFunction grid, const std::vector<std::string>& names);
 
-/// Makes a problem of a function on a full grid. The limits are the lowest and the highest value of each variable;
-/// values that are exactly lower + i * step are marked equally spaced.
-ProblemFromGrid problemFromGrid(GridFunction grid, const std::vector<std::string>& names, const ImportOptions& options);
+/// Sets the degrees and the centres, one for each variable or one for all; none leaves them as they are. A centre is a
+/// number or "*", the middle of the interval. Returns what is refused of them.
+std::vector<Finding> setDegreesAndCentres(Problem& problem, const std::vector<Long>& degrees,
+                                          const std::vector<std::string>& centres);
 
 /// Names that variables can have, made of those of columns: cut at commas and line ends, blanks around them gone, and
 /// each once. A column without a name gives x, y, z or w by its place.

@@ -39,6 +39,9 @@ void frmTavimor::Form_Load() {
   cmdCompute->setEnabled(false);
   cmdEvaluations->setEnabled(false);
   txtOrder->setFocus();
+
+  setAcceptDrops(true);
+  for (TextBox* field : {txtOrder, txtVarNams}) field->setAcceptDrops(false);  // a file is no text to type there
 }
 
 void frmTavimor::Form_Unload() {
@@ -57,6 +60,8 @@ void frmTavimor::mousePressEvent(QMouseEvent* event) {
 
 void frmTavimor::connectCommands() {
   connect(mnuOpen, &QAction::triggered, this, &frmTavimor::mnuOpen_Click);
+  connect(mnuImport, &QAction::triggered, this, &frmTavimor::mnuImport_Click);
+  connect(mnuPaste, &QAction::triggered, this, &frmTavimor::mnuPaste_Click);
   connect(mnuSave, &QAction::triggered, this, &frmTavimor::mnuSave_Click);
   connect(mnuSaveAs, &QAction::triggered, this, &frmTavimor::mnuSaveAs_Click);
   connect(mnuPrint, &QAction::triggered, this, &frmTavimor::mnuPrint_Click);

@@ -2,6 +2,7 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 
 #include "formats/open_problem.h"
 #include "model/Dimension.h"
@@ -58,6 +59,8 @@ class frmTavimor : public Form, private MainControls {
   void Form_Load();
   void Form_Unload() override;
   void mousePressEvent(QMouseEvent* event) override;
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
   void connectCommands();
   void mnuAbout_Click();
   void cmdNextVar_Click();
@@ -88,6 +91,13 @@ class frmTavimor : public Form, private MainControls {
   void saveIfNamed();
   void SaveProblem();
   void showOpened(OpenedProblem opened);
+
+  // Tables
+  void mnuImport_Click();
+  void mnuPaste_Click();
+  void importFile(const std::string& path);
+  void importText(std::string_view text);
+  void takeDropped(const QString& file, const std::string& text);
 
   // Compute and listing
   void cmdCompute_Click();

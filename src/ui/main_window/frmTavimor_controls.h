@@ -24,6 +24,9 @@ struct MainControls {
   QAction* mnuSaveAs;
   QAction* mnuFileBar2;
   QAction* mnuPrint;
+  QAction* mnuTools;
+  QAction* mnuImport;
+  QAction* mnuPaste;
   QAction* mnuHelp;
   QAction* mnuAbout;
 
@@ -57,6 +60,8 @@ struct MainControls {
 
  private:
   void makeMenus(QWidget& window);
+  void makeFileMenu();
+  void makeToolsMenu();
   void makeControls();
   void layOutSpecs();
   QLayout* headingLayout() const;

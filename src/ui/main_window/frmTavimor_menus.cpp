@@ -24,6 +24,13 @@ QAction* addBar(QMenu& menu, const char* name) {
 
 void MainControls::makeMenus(QWidget& window) {
   menuBar = new QMenuBar(&window);
+  makeFileMenu();
+  makeToolsMenu();
+  mnuHelp = addItem(*menuBar, "mnuHelp", "&Help");
+  mnuAbout = addItem(*menuBar, "mnuAbout", "&About");
+}
+
+void MainControls::makeFileMenu() {
   QMenu* menu = menuBar->addMenu(QStringLiteral("&File"));
   mnuFile = menu->menuAction();
   mnuFile->setObjectName(QStringLiteral("mnuFile"));
@@ -33,8 +40,17 @@ void MainControls::makeMenus(QWidget& window) {
   mnuSaveAs = addItem(*menu, "mnuSaveAs", "Save &As", Qt::CTRL | Qt::SHIFT | Qt::Key_S);
   mnuFileBar2 = addBar(*menu, "mnuFileBar2");
   mnuPrint = addItem(*menu, "mnuPrint", "&Print", Qt::CTRL | Qt::Key_P);
-  mnuHelp = addItem(*menuBar, "mnuHelp", "&Help");
-  mnuAbout = addItem(*menuBar, "mnuAbout", "&About");
+}
+
+// A table can be taken as long as a problem can be opened.
+void MainControls::makeToolsMenu() {
+  QMenu* menu = menuBar->addMenu(QStringLiteral("&Tools"));
+  mnuTools = menu->menuAction();
+  mnuTools->setObjectName(QStringLiteral("mnuTools"));
+  mnuImport = addItem(*menu, "mnuImport", "&Import table...", Qt::CTRL | Qt::Key_I);
+  mnuPaste = addItem(*menu, "mnuPaste", "&Paste table", Qt::CTRL | Qt::SHIFT | Qt::Key_V);
+  for (QAction* item : {mnuImport, mnuPaste})
+    QObject::connect(mnuOpen, &QAction::enabledChanged, item, &QAction::setEnabled);
 }
 
 }  // namespace tavimor
