@@ -47,9 +47,7 @@ ExitCode importCommand(const std::string& table, const std::string& output, cons
       if (finding.isRefusal()) complain(table == kStandardInput ? "standard input" : table, finding.text);
     return ExitCode::Error;
   }
-  Dimension model;
-  static_cast<Problem&>(model) = *outcome.problem;
-  writeProblem(model, output);
+  writeProblem(*outcome.problem, Fit(), output);
   for (const Finding& finding : outcome.findings) printLine(finding.text);
   finishOutput();
   return ExitCode::Success;

@@ -6,7 +6,7 @@
 
 #include "formats/file_pair.h"
 #include "formats/tables/table_text.h"
-#include "runtime/run_time_error.h"
+#include "runtime/failure.h"
 #include "ui/controls/message_box.h"
 #include "ui/main_window/frmTavimor.h"
 #include "ui/tables/table_dialog.h"
@@ -47,21 +47,18 @@ void frmTavimor::importFile(const std::string& path) {
   try {
     const TableText table = TableText::ofFile(path);
     importText(table.view());
-  } catch (const RunTimeError& error) {
+  } catch (const Failure& failure) {
     showWarning(QStringLiteral("The table cannot be opened:\n\n%1\n\n%2")
-                    .arg(QString::fromStdString(path), QString::fromStdString(error.report())));
+                    .arg(QString::fromStdString(path), QString::fromStdString(failure.report())));
   }
 }
 
 void frmTavimor::importText(std::string_view text) {
   std::optional<TableProblem> created = problemFromTable(this, text);
   if (!created || isEnding()) return;
-  Dimension opened = model_;
-  static_cast<Problem&>(opened) = std::move(created->problem);
-  static_cast<Fit&>(opened) = Fit();
-  AllSpecFields fields = specFields();
-  for (Long k = 0; k < kMaxVariables; ++k) fields[k].txtExpansion = created->centres[k];
-  showOpened(std::move(opened), fields);
+  OpenedProblem opened{std::move(created->problem), {}, {}};
+  for (Long k = 0; k < kMaxVariables; ++k) opened.fields[k].txtExpansion = created->centres[k];
+  showOpened(std::move(opened));
 }
 
 void frmTavimor::dragEnterEvent(QDragEnterEvent* event) {
