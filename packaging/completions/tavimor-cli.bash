@@ -27,11 +27,24 @@ _tavimor_cli_position() {
   echo "$position"
 }
 
+# _tavimor_cli_import BEFORE WORD: what an option of import can be told, or a table and the name of its problem.
+_tavimor_cli_import() {
+  case $1 in
+    --header) mapfile -t COMPREPLY < <(compgen -W 'yes no' -- "$2") ;;
+    --form) mapfile -t COMPREPLY < <(compgen -W 'list cross' -- "$2") ;;
+    --duplicates) mapfile -t COMPREPLY < <(compgen -W 'refuse mean' -- "$2") ;;
+    --gaps) mapfile -t COMPREPLY < <(compgen -W 'refuse shrink' -- "$2") ;;
+    --separator) mapfile -t COMPREPLY < <(compgen -W 'comma semicolon tab blank' -- "$2") ;;
+    --columns | --degree | --centre | --tolerance) ;;
+    *) _tavimor_cli_files "$2" ;;
+  esac
+}
+
 _tavimor_cli() {
   local word=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD - 1]} command=${COMP_WORDS[1]}
   COMPREPLY=()
   if ((COMP_CWORD == 1)); then
-    mapfile -t COMPREPLY < <(compgen -W 'fit show eval analyse degrees report copy --help --version' -- "$word")
+    mapfile -t COMPREPLY < <(compgen -W 'fit show eval analyse degrees report copy import --help --version' -- "$word")
   elif [[ $command = fit && ($before = -o || $before = --output) ]]; then
     _tavimor_cli_files "$word"
   elif [[ $word = -* ]]; then
@@ -41,8 +54,13 @@ _tavimor_cli() {
       eval) options='--interval --level --help' ;;
       analyse) options='--level --as-stored --centre --degree --json --help' ;;
       degrees) options='--max --all --as-stored --json --help' ;;
+      import)
+        options='--columns --degree --centre --separator --decimal-comma --header --form --tolerance --duplicates --gaps --help'
+        ;;
     esac
     mapfile -t COMPREPLY < <(compgen -W "$options" -- "$word")
+  elif [[ $command = import ]]; then
+    _tavimor_cli_import "$before" "$word"
   elif [[ $command = @(fit|show|eval|analyse|degrees|report|copy) ]]; then
     case $(_tavimor_cli_position) in
       0) _tavimor_cli_problems "$word" ;;

@@ -32,6 +32,7 @@ complete -c tavimor-cli -n __fish_use_subcommand -a analyse -d 'Tell how many di
 complete -c tavimor-cli -n __fish_use_subcommand -a degrees -d 'Tell how well each combination of degrees would fit'
 complete -c tavimor-cli -n __fish_use_subcommand -a report -d 'Print the report'
 complete -c tavimor-cli -n __fish_use_subcommand -a copy -d 'Save the problem under another name'
+complete -c tavimor-cli -n __fish_use_subcommand -a import -d 'Make a problem of a table'
 complete -c tavimor-cli -n '__fish_seen_subcommand_from fit' -s o -l output -r -F -d 'Save the fitted problem'
 complete -c tavimor-cli -n '__fish_seen_subcommand_from fit' -l precise -d 'List and save the exact solution'
 complete -c tavimor-cli -n '__fish_seen_subcommand_from fit' -l no-check -d 'Do not look how many digits are right'
@@ -46,3 +47,14 @@ complete -c tavimor-cli -n '__fish_seen_subcommand_from degrees' -l all -d 'All 
 complete -c tavimor-cli -n '__fish_seen_subcommand_from fit show eval analyse degrees report copy; and __tavimor_cli_position 0' \
     -a '(__tavimor_cli_problems)'
 complete -c tavimor-cli -n '__fish_seen_subcommand_from copy; and __tavimor_cli_position 1' -F
+complete -c tavimor-cli -n '__fish_seen_subcommand_from import' -F
+complete -c tavimor-cli -n '__fish_seen_subcommand_from import' -l columns -x -d 'The columns, the function last'
+complete -c tavimor-cli -n '__fish_seen_subcommand_from import' -l degree -x -d 'The degree of each variable'
+complete -c tavimor-cli -n '__fish_seen_subcommand_from import' -l centre -x -d 'The centre of each variable'
+complete -c tavimor-cli -n '__fish_seen_subcommand_from import' -l separator -x -a 'comma semicolon tab blank'
+complete -c tavimor-cli -n '__fish_seen_subcommand_from import' -l decimal-comma -d 'Numbers have a decimal comma'
+complete -c tavimor-cli -n '__fish_seen_subcommand_from import' -l header -x -a 'yes no'
+complete -c tavimor-cli -n '__fish_seen_subcommand_from import' -l form -x -a 'list cross'
+complete -c tavimor-cli -n '__fish_seen_subcommand_from import' -l tolerance -x -d 'Values this near are one'
+complete -c tavimor-cli -n '__fish_seen_subcommand_from import' -l duplicates -x -a 'refuse mean'
+complete -c tavimor-cli -n '__fish_seen_subcommand_from import' -l gaps -x -a 'refuse shrink'

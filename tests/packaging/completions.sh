@@ -21,7 +21,12 @@ commands=$("$share/../bin/tavimor-cli" --help | sed -n '/^Commands:/,/^$/s/^  \(
 problems="data heat-index load-cell nist offset-print ozone silicon-index sound-speed"
 expectEqual "commands" "--help --version $commands" "$(completed tavimor-cli '')"
 expectEqual "a command" "report" "$(completed tavimor-cli r)"
-for command in $commands; do expectEqual "problems to $command" "$problems" "$(completed tavimor-cli "$command" '')"; done
+for command in $commands; do
+  [ "$command" = import ] || expectEqual "problems to $command" "$problems" "$(completed tavimor-cli "$command" '')"
+done
+expectEqual "tables" "heat-index heat-index.dat" "$(completed tavimor-cli import he)"
+expectEqual "options of import" "--decimal-comma --degree --duplicates" "$(completed tavimor-cli import --d)"
+expectEqual "what to do with gaps" "refuse shrink" "$(completed tavimor-cli import t --gaps '')"
 expectEqual "a problem in a folder" "nist/filip" "$(completed tavimor-cli show nist/f)"
 expectEqual "the one problem" "" "$(completed tavimor-cli show ozone '')"
 expectEqual "values" "" "$(completed tavimor-cli eval ozone -1 '')"

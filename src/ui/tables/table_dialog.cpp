@@ -95,7 +95,7 @@ void TableDialog::look() {
   outcome_ = importTable(text_, told_);
   showFormat();
   grdPreview->showTable(text_, outcome_.format);
-  if (told_.columns.empty() || !outcome_.variables.empty()) grdPreview->showRoles(outcome_);
+  if (told_.columns.empty()) grdPreview->showRoles(outcome_);  // else they stand as the user has chosen them
   showVariables();
   showFindings();
 }

@@ -70,6 +70,19 @@ TEST_F(Drop, ImportsText) {
   EXPECT_EQ(model.LastPoint[0], 1);
 }
 
+TEST_F(Drop, AFileThatIsGoneIsTold) {
+  writeFile("t", "0,1\n1,2\n");
+  QMimeData data;
+  data.setUrls({QUrl::fromLocalFile(pathOf("t"))});
+  QDropEvent let(window->rect().center(), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+  QCoreApplication::sendEvent(window, &let);
+  QFile::remove(pathOf("t"));
+  QString told;
+  dialogs.expectAndPress("OK", &told);
+  QCoreApplication::processEvents();
+  EXPECT_EQ(told, "The table cannot be opened:\n\n" + pathOf("t") + "\n\nRun-time error '53': File not found");
+}
+
 TEST_F(Drop, TakesOneFileAtATime) {
   writeFile("a", "0,1\n1,2\n");
   writeFile("b", "0,1\n1,2\n");
