@@ -51,8 +51,8 @@ void setDegrees(Problem& problem, const std::vector<Long>& degrees, std::vector<
   for (Long k = 0; k <= problem.LastVar && !degrees.empty(); ++k) {
     problem.Degree[k] = entry(degrees, k);
     if (problem.Degree[k] < 0 || problem.Degree[k] > problem.LastPoint[k])
-      findings.push_back(degreeIsTooHigh(problem.Degree[k], problem.VarName[k],
-                                         static_cast<std::size_t>(problem.LastPoint[k]) + 1));
+      findings.push_back(
+          degreeIsTooHigh(problem.Degree[k], problem.VarName[k], static_cast<std::size_t>(problem.LastPoint[k]) + 1));
   }
 }
 

@@ -102,7 +102,7 @@ std::string readingText(const Reading& reading) {
   const auto row =
       std::find_if(reading.rows.begin(), reading.rows.end(), [](const SampleRow& r) { return r.hasNumber(); });
   std::vector<std::string> cells;
-  for (const std::string& cell : row->cells) cells.push_back(cell.empty() ? "nothing" : utf8FromBytes(cell));
+  for (const std::string& cell : row->cells) cells.push_back(cell.empty() ? "nothing" : excerptText(cell));
   return formatText(reading.format) + ", so that line " + std::to_string(row->line) + " is " + listText(cells);
 }
 

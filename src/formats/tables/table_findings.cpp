@@ -21,13 +21,7 @@ std::string separatorText(char separator) {
   }
 }
 
-std::string quoted(std::string_view text) {
-  const std::string whole = utf8FromBytes(trimmed(text));
-  std::string excerpt(firstCharacters(whole, kExcerptCharacters));
-  for (char& c : excerpt)
-    if (static_cast<unsigned char>(c) < ' ' || c == '\x7F') c = '?';
-  return '"' + excerpt + '"';
-}
+std::string quoted(std::string_view text) { return '"' + excerptText(text) + '"'; }
 
 std::string joined(const std::vector<std::string>& items, const std::string& between) {
   std::string text;
@@ -78,6 +72,14 @@ std::string readingsText(const std::vector<std::string>& readings) {
 }
 
 }  // namespace
+
+std::string excerptText(std::string_view text) {
+  const std::string whole = utf8FromBytes(trimmed(text));
+  std::string beginning(firstCharacters(whole, kExcerptCharacters));
+  for (char& c : beginning)
+    if (static_cast<unsigned char>(c) < ' ' || c == '\x7F') c = '?';
+  return beginning;
+}
 
 bool anyRefusal(const std::vector<Finding>& findings) {
   return std::any_of(findings.begin(), findings.end(), [](const Finding& finding) { return finding.isRefusal(); });
@@ -277,7 +279,9 @@ Finding formatIsTaken(const TableFormat& format, bool crossTable) {
 
 Finding headingIsTaken(long headingLine, long unitsLine, const std::vector<std::string>& units) {
   std::string text = "line " + std::to_string(headingLine) + " is the heading";
-  if (unitsLine > 0) text += ", line " + std::to_string(unitsLine) + " the units (" + joined(units, ", ") + ')';
+  std::vector<std::string> excerpts;
+  for (const std::string& unit : units) excerpts.push_back(excerptText(unit));
+  if (unitsLine > 0) text += ", line " + std::to_string(unitsLine) + " the units (" + joined(excerpts, ", ") + ')';
   return {FindingKind::HeadingTaken, text, headingLine};
 }
 

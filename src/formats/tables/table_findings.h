@@ -65,6 +65,9 @@ constexpr std::size_t kMostNamed = 20;
 /// `column 2 ("T")`, or `column 2`.
 std::string labelText(const ColumnLabel& column);
 
+/// The beginning of a text, fit for one line of a message.
+std::string excerptText(std::string_view text);
+
 /// "a, b and c".
 std::string listText(const std::vector<std::string>& items);
 
