@@ -147,7 +147,7 @@ class RoleFinder {
     for (std::uint32_t set = 1; set < 1U << candidates.size(); ++set) {
       Columns columns;
       for (std::size_t n = 0; n < candidates.size(); ++n)
-        if ((set >> n & 1) != 0) columns.push_back(candidates[n]);
+        if (((set >> n) & 1) != 0) columns.push_back(candidates[n]);
       if (columns.size() < 2 || columns.size() > kMaxVariables) continue;
       const double fill = fillOf(columns);
       if (fill < bestFill || (fill == bestFill && (best.empty() || columns.size() < best.size()))) continue;

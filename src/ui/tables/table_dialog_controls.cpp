@@ -2,6 +2,7 @@
 
 #include <QGridLayout>
 #include <QHBoxLayout>
+#include <tuple>
 
 #include "ui/controls/control_array.h"
 #include "ui/controls/fonts.h"
