@@ -118,7 +118,8 @@ class ColumnReader {
         splitter_(recognised.format.separator),
         plain_(recognised.format.separator, recognised.columns) {
     table_.columns.resize(recognised.columns);
-    reserve(expectedRows(text));
+    reserve(
+        std::min(expectedRows(text), text.size() / (2 * recognised.columns) + 1));  // a cell takes two bytes at least
     TableRecord head;
     for (std::size_t n = 0; n < recognised.recordsOfHead; ++n) records_.next(head);
   }
