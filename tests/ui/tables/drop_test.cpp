@@ -9,15 +9,22 @@ namespace {
 
 class Drop : public MainWindowTest {
  protected:
-  // What a window system sends while something is dragged in and let go. True where the window takes it.
-  bool drop(QMimeData& data) {
-    const QPoint place = window->rect().center();
-    QDragEnterEvent enter(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+  // What a window system sends while something is dragged in. True where the window takes it.
+  bool dragIn(QMimeData& data) {
+    QDragEnterEvent enter(window->rect().center(), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
     enter.ignore();
     QCoreApplication::sendEvent(window, &enter);
-    if (!enter.isAccepted()) return false;
-    QDropEvent let(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(window, &let);
+    return enter.isAccepted();
+  }
+
+  void letGo(QMimeData& data) {
+    QDropEvent drop(window->rect().center(), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(window, &drop);
+  }
+
+  bool drop(QMimeData& data) {
+    if (!dragIn(data)) return false;
+    letGo(data);
     QCoreApplication::processEvents();
     return true;
   }
@@ -74,8 +81,8 @@ TEST_F(Drop, AFileThatIsGoneIsTold) {
   writeFile("t", "0,1\n1,2\n");
   QMimeData data;
   data.setUrls({QUrl::fromLocalFile(pathOf("t"))});
-  QDropEvent let(window->rect().center(), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-  QCoreApplication::sendEvent(window, &let);
+  ASSERT_TRUE(dragIn(data));
+  letGo(data);
   QFile::remove(pathOf("t"));
   QString told;
   dialogs.expectAndPress("OK", &told);
