@@ -85,7 +85,9 @@ class TableImport {
     if (outcome_.form == TableForm::Cross) {
       for (std::size_t column = 0; column < 2; ++column) {
         roles_.variables.push_back(column);
-        roles_.values.push_back(findValues(table_.columns[column].numbers, options_.tolerance));
+        const ColumnValues& values =
+            roles_.values.emplace_back(findValues(table_.columns[column].numbers, options_.tolerance));
+        if (values.values.size() == 1) add(columnIsConstant(columnLabel(recognised_, column), values.values.front()));
       }
       roles_.function = 2;
     } else {

@@ -173,6 +173,7 @@ const std::vector<BrokenTable>& brokenTables() {
        {"the grid is not full: 1 of its 9 points is missing: x=1, y=20; without x=1 it is full and loses 2 of the 8 "
         "points"}},
       {"WordInACrossTable", ",10,20,30\n0,1,2,3\n1,4,x,6\n2,7,8,9\n", {}, {"line 3, column 3: \"x\" is no number"}},
+      {"CrossTableOfOneRow", "  1 2\n3 3 5\n", {}, {"column 1 is always 3: a variable needs two values at least"}},
       {"NoGridStays",
        "x,y,f\n0,0,1\n0,1,2\n1,0,3\n",
        shrinking(),
