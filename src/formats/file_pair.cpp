@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <vector>
 
+#include "formats/replaced_file.h"
 #include "formats/work_names.h"
 #include "platform/files.h"
 #include "runtime/file_facts.h"
@@ -22,14 +23,6 @@ void requireNoWorkName(const PairPaths& pair) {
     if (isWorkName(path)) throw RunTimeError(ErrorNumber::PathFileAccess, path);
 }
 
-// Replacing a file asks only for permission on its folder: a file that may not be written is refused here.
-void requireReplaceable(const std::string& path) {
-  const FileKind kind = factsOf(path).kind;
-  if (kind == FileKind::Missing) return;
-  if (kind != FileKind::Regular) throw RunTimeError(ErrorNumber::PathFileAccess, path);
-  if (!mayBeWritten(path)) throw fileError(errno, path);
-}
-
 void requireTwoFiles(const PairPaths& pair) {
   if (pair.specification == pair.values || factsOf(pair.specification).isSameFileAs(factsOf(pair.values)))
     throw RunTimeError(ErrorNumber::FileAlreadyOpen, pair.values);
@@ -45,11 +38,6 @@ PairPaths replaceable(const std::string& path) {
   requireReplaceable(target.values);
   requireTwoFiles(target);
   return target;
-}
-
-std::string folderOf(const std::string& path) {
-  const std::string parent = utf8Path(nativePath(path).parent_path());
-  return parent.empty() ? "." : parent;
 }
 
 // What saves of this target that were killed have left under names of their own.

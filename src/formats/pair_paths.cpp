@@ -16,7 +16,9 @@ std::string targetOfLink(const std::string& link) {
   return utf8Path(path.parent_path() / target);
 }
 
-std::string resolved(const std::string& path) {
+}  // namespace
+
+std::string resolvedLink(const std::string& path) {
   constexpr int mostLinks = 40;  // as many as Linux follows
   std::string target = path;
   for (int links = 0; factsOf(target).kind == FileKind::Link; ++links) {
@@ -26,10 +28,8 @@ std::string resolved(const std::string& path) {
   return target;
 }
 
-}  // namespace
-
 PairPaths pairPaths(const std::string& path) { return {path, path + ".dat"}; }
 
-PairPaths resolved(const PairPaths& pair) { return {resolved(pair.specification), resolved(pair.values)}; }
+PairPaths resolved(const PairPaths& pair) { return {resolvedLink(pair.specification), resolvedLink(pair.values)}; }
 
 }  // namespace tavimor
