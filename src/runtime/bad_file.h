@@ -10,11 +10,14 @@ namespace tavimor {
 struct BadFile : Failure {
   BadFile(std::string filePath, long lineNumber, std::string expectedItem, std::string foundItem);
 
-  long line;  // counted from 1
+  /// For files whose places have names: "variables[1].degree".
+  BadFile(std::string filePath, std::string placeName, std::string expectedItem, std::string foundItem);
+
+  std::string place;  // "line 3", or its name
   std::string expected;
   std::string found;
 
-  std::string heading() const override { return "line " + std::to_string(line); }
+  std::string heading() const override { return place; }
 
   /// "expected ..., found ..."
   const char* what() const noexcept override { return reason_.c_str(); }

@@ -38,7 +38,7 @@ TEST_F(InputFileErrors, NameTheFileTheLineAndBothSides) {
     ADD_FAILURE();
   } catch (const BadFile& error) {
     EXPECT_EQ(error.path(), folder / "file");
-    EXPECT_EQ(error.line, 3);
+    EXPECT_EQ(error.place, "line 3");
     EXPECT_EQ(error.expected, "the limit (a number)");
     EXPECT_EQ(error.found, "\"x\"");
   }
