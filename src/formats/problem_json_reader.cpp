@@ -1,14 +1,11 @@
 #include <algorithm>
-#include <array>
-#include <cerrno>
 
 #include "formats/json_item.h"
 #include "formats/problem_json.h"
+#include "formats/whole_text.h"
 #include "model/value_lists.h"
-#include "platform/files.h"
 #include "runtime/bad_file.h"
 #include "runtime/number_text.h"
-#include "runtime/run_time_error.h"
 #include "runtime/text.h"
 
 namespace tavimor {
@@ -109,15 +106,6 @@ StoredProblem problemFromJson(std::string_view text, const std::string& path) {
   return read;
 }
 
-StoredProblem readProblemJson(const std::string& path) {
-  const FileHandle file = openFile(path, "rb");
-  if (!file) throw fileError(errno, path);
-  std::string text;
-  std::array<char, 65536> chunk;
-  for (std::size_t count; (count = std::fread(chunk.data(), 1, chunk.size(), file.get())) > 0;)
-    text.append(chunk.data(), count);
-  if (std::ferror(file.get()) != 0) throw fileError(errno, path);
-  return problemFromJson(text, path);
-}
+StoredProblem readProblemJson(const std::string& path) { return problemFromJson(wholeText(path), path); }
 
 }  // namespace tavimor

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "formats/formulas/languages/languages.h"
+#include "formats/formulas/workbook_file.h"
 #include "formats/problem_json.h"
 #include "platform/files.h"
 
@@ -24,17 +25,18 @@ std::string jsonText(const Problem& problem, const Fit& fit, const FormulaOption
 }
 
 constexpr ExportFormat kFormats[] = {
-    {"c", ".c", formulaIn<cFormula>},
-    {"c++", ".cpp", formulaIn<cppFormula>},
-    {"python", ".py", formulaIn<pythonFormula>},
-    {"fortran", ".f90", formulaIn<fortranFormula>},
-    {"octave", ".m", formulaIn<octaveFormula>},
-    {"r", ".R", formulaIn<rFormula>},
-    {"javascript", ".js", formulaIn<javascriptFormula>},
-    {"latex", ".tex", formulaIn<latexFormula>},
-    {"text", ".txt", formulaIn<textFormula>},
-    {"gnuplot", ".gp", gnuplotText},
-    {"json", ".json", jsonText},
+    {"c", ".c", "C", ExportKind::Text, formulaIn<cFormula>},
+    {"c++", ".cpp", "C++", ExportKind::Text, formulaIn<cppFormula>},
+    {"python", ".py", "Python", ExportKind::Text, formulaIn<pythonFormula>},
+    {"fortran", ".f90", "Fortran", ExportKind::Text, formulaIn<fortranFormula>},
+    {"octave", ".m", "Octave, MATLAB", ExportKind::Text, formulaIn<octaveFormula>},
+    {"r", ".R", "R", ExportKind::Text, formulaIn<rFormula>},
+    {"javascript", ".js", "JavaScript", ExportKind::Text, formulaIn<javascriptFormula>},
+    {"latex", ".tex", "LaTeX", ExportKind::Text, formulaIn<latexFormula>},
+    {"text", ".txt", "Text", ExportKind::Text, formulaIn<textFormula>},
+    {"gnuplot", ".gp", "gnuplot", ExportKind::Text, gnuplotText},
+    {"xlsx", ".xlsx", "Workbook", ExportKind::Bytes, workbookBytes},
+    {"json", ".json", "JSON", ExportKind::Problem, jsonText},
 };
 
 }  // namespace

@@ -1,0 +1,35 @@
+// tavimor-workbook PROBLEM.json OUT.xlsx NAME [WITHIN]: writes the workbook of a fitted problem. The programs that
+// offer workbooks run it; see formats/formulas/workbook_file.h.
+#include <cstdio>
+#include <new>
+
+#include "formats/problem_json.h"
+#include "runtime/failure.h"
+#include "runtime/val.h"
+#include "workbook/workbook.h"
+
+namespace {
+
+using namespace tavimor;
+
+int fail(const std::string& reason) {
+  std::fprintf(stderr, "tavimor-workbook: %s\n", reason.c_str());
+  return 1;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  if (argc != 4 && argc != 5) return fail("usage: tavimor-workbook PROBLEM.json OUT.xlsx NAME [WITHIN]");
+  try {
+    const StoredProblem read = readProblemJson(argv[1]);
+    FormulaOptions options{.name = argv[3], .within = {}, .checks = 0};
+    if (argc == 5) options.within = Val(argv[4]);
+    writeWorkbook(read.problem, formulaOf(read.problem, read.fit, options), argv[2]);
+    return 0;
+  } catch (const Failure& failure) {
+    return fail(failure.report());
+  } catch (const std::bad_alloc&) {
+    return fail("out of memory");
+  }
+}
