@@ -3,6 +3,7 @@
 #include <cstdio>
 #include <new>
 
+#include "formats/formulas/make_formula.h"
 #include "formats/problem_json.h"
 #include "runtime/failure.h"
 #include "runtime/val.h"

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "formats/formulas/languages/languages.h"
+#include "formats/formulas/make_formula.h"
 #include "formats/formulas/workbook_file.h"
 #include "formats/problem_json.h"
 #include "platform/files.h"

@@ -58,11 +58,4 @@ struct Formula {
   Long last() const { return static_cast<Long>(variables.size()) - 1; }
 };
 
-/// Whether every coefficient is a number: a fit that has overflowed has no formula.
-bool hasFormula(const Fit& fit);
-
-/// The formula of a fit. The same problem, fit and options always give the same formula.
-/// Errors: InvalidCall where the fit has none, SubscriptOutOfRange for a value list that is too short.
-Formula formulaOf(const Problem& problem, const Fit& fit, const FormulaOptions& options);
-
 }  // namespace tavimor

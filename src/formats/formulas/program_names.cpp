@@ -12,7 +12,7 @@ ProgramNames programNames(const Formula& formula, std::string_view reserved, Let
   for (Long k = 0; k <= formula.last(); ++k) {
     names.t.push_back(identifiers.make("t" + std::to_string(k), 't'));
     names.s.push_back(identifiers.make("s" + std::to_string(k), 's'));
-    names.j.push_back(identifiers.make("j" + std::to_string(k), 'j'));
+    names.j.push_back(identifiers.make("n" + std::to_string(k), 'n'));
   }
   names.coef = identifiers.make(names.function + "_coef", 'c');
   names.points = identifiers.make(names.function + "_points", 'p');

@@ -14,6 +14,7 @@ namespace tavimor {
 namespace {
 
 constexpr int kMostDigits = 17;  // bring back every double
+constexpr double kNextShare = 0.75;
 
 double roundedTo(double value, int digits) {
   std::array<char, 40> text{};
@@ -94,7 +95,8 @@ PerVariable<Long> highestPowers(const Table4& Coef) {
 void roundWithin(Formula& formula, const Problem& problem, double within) {
   const Table4 most = mostOfTerms(formula);
   Attempt best = attempt(formula.Coef, most, within);
-  for (double share = within / 2; best.bound > within; share /= 2) best = attempt(formula.Coef, most, share);
+  for (double share = kNextShare * within; best.bound > within; share *= kNextShare)
+    best = attempt(formula.Coef, most, share);
   formula.rounded = RoundedBy{within, best.bound, largestOnGrid(formula.Coef, best.Coef, problem), best.dropped};
   formula.Coef = std::move(best.Coef);
   formula.Coef.resizeKeeping(highestPowers(formula.Coef));

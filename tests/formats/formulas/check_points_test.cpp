@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "engine/polynomial.h"
+#include "formats/formulas/make_formula.h"
 #include "random_fits.h"
 
 namespace tavimor {

@@ -30,7 +30,9 @@ class ExportedDocuments : public testing::Test {
     return test::runIn(folder, command);
   }
 
-  Outcome typeset(const std::string& content) const { return run("f.tex", content, "chktex -q -n 1 -n 3 -n 24 -n 44 f.tex"); }
+  Outcome typeset(const std::string& content) const {
+    return run("f.tex", content, "chktex -q -n 1 -n 3 -n 24 -n 44 f.tex");
+  }
 
   std::vector<std::vector<std::string>> sheet(int number) const {
     std::istringstream lines(test::readBytes(folder / ("f.csv." + std::to_string(number))));

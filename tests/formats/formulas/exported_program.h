@@ -3,6 +3,7 @@
 #include <string>
 
 #include "formats/formulas/export_formats.h"
+#include "formats/formulas/make_formula.h"
 #include "support/files.h"
 #include "support/process.h"
 #include "support/temporary_folder.h"

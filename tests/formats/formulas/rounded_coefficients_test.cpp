@@ -4,7 +4,7 @@
 #include <limits>
 
 #include "engine/polynomial.h"
-#include "formats/formulas/formula.h"
+#include "formats/formulas/make_formula.h"
 #include "random_fits.h"
 #include "runtime/run_time_error.h"
 #include "support/expect_error.h"

@@ -52,7 +52,8 @@ class Levels {
 
   static std::string horner(const Lines& inner, const std::string& t) {
     std::string text = inner.back();
-    for (std::size_t j = inner.size() - 1; j-- > 0;) text = "(" + text + ") * " + t + " + " + inner[j];
+    for (std::size_t j = inner.size() - 1; j-- > 0;)
+      text = (j + 2 == inner.size() ? text : "(" + text + ")") + " * " + t + " + " + inner[j];
     return text;
   }
 

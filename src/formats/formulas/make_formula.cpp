@@ -1,4 +1,4 @@
-#include "formats/formulas/formula.h"
+#include "formats/formulas/make_formula.h"
 
 #include <algorithm>
 #include <cmath>
