@@ -2,6 +2,9 @@
 tavimor_install_program(tavimor)
 install(FILES ${PROJECT_SOURCE_DIR}/help/tavimor.hlp DESTINATION ${CMAKE_INSTALL_DATADIR}/tavimor COMPONENT tavimor)
 
+# Run by both programs, never by hand: see src/platform/helper_program.h.
+install(TARGETS tavimor-workbook DESTINATION ${CMAKE_INSTALL_LIBEXECDIR}/tavimor COMPONENT tavimor)
+
 # The documents keep their places beside each other, so that their links hold.
 set(documents ${CMAKE_INSTALL_DATAROOTDIR}/doc/tavimor)
 install(FILES ${PROJECT_SOURCE_DIR}/README.md ${PROJECT_SOURCE_DIR}/CHANGELOG.md

@@ -14,12 +14,14 @@ _tavimor_cli_files() {
   mapfile -t COMPREPLY < <(compgen -f -- "$1")
 }
 
+_tavimor_cli_forms='c c++ python fortran octave r javascript latex text gnuplot xlsx json'
+
 # How many words stand between the command and the cursor, options and what belongs to them apart.
 _tavimor_cli_position() {
   local index position=0
   for ((index = 2; index < COMP_CWORD; ++index)); do
     case ${COMP_WORDS[index]} in
-      -o | --output | --degree | --centre | --center | --level | --max) ((++index)) ;;
+      -o | --output | --degree | --centre | --center | --level | --max | --to | --name | --within | --checks) ((++index)) ;;
       -*) ;;
       *) ((++position)) ;;
     esac
@@ -44,9 +46,14 @@ _tavimor_cli() {
   local word=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD - 1]} command=${COMP_WORDS[1]}
   COMPREPLY=()
   if ((COMP_CWORD == 1)); then
-    mapfile -t COMPREPLY < <(compgen -W 'fit show eval analyse degrees report copy import --help --version' -- "$word")
-  elif [[ $command = fit && ($before = -o || $before = --output) ]]; then
+    mapfile -t COMPREPLY < <(compgen -W \
+      'fit show eval analyse degrees report copy import export residuals --help --version' -- "$word")
+  elif [[ $command = @(fit|export|residuals) && ($before = -o || $before = --output) ]]; then
     _tavimor_cli_files "$word"
+  elif [[ $command = export && $before = --to ]]; then
+    mapfile -t COMPREPLY < <(compgen -W "$_tavimor_cli_forms" -- "$word")
+  elif [[ $command = export && $before = @(--name|--within|--checks) ]]; then
+    return
   elif [[ $word = -* ]]; then
     local options=--help
     case $command in
@@ -57,11 +64,13 @@ _tavimor_cli() {
       import)
         options='--columns --degree --centre --separator --decimal-comma --header --form --tolerance --duplicates --gaps --help'
         ;;
+      export) options='--to --output --name --within --checks --nan-outside --help' ;;
+      residuals) options='--output --help' ;;
     esac
     mapfile -t COMPREPLY < <(compgen -W "$options" -- "$word")
   elif [[ $command = import ]]; then
     _tavimor_cli_import "$before" "$word"
-  elif [[ $command = @(fit|show|eval|analyse|degrees|report|copy) ]]; then
+  elif [[ $command = @(fit|show|eval|analyse|degrees|report|copy|export|residuals) ]]; then
     case $(_tavimor_cli_position) in
       0) _tavimor_cli_problems "$word" ;;
       1) if [[ $command = copy ]]; then _tavimor_cli_files "$word"; fi ;;

@@ -14,7 +14,8 @@ function __tavimor_cli_position -a expected
     set -l position 0
     set -l before
     for word in (commandline -opc)[3..]
-        if not string match -q -- '-*' $word; and not contains -- "$before" -o --output --degree --centre --center --level --max
+        if not string match -q -- '-*' $word; and not contains -- "$before" \
+                -o --output --degree --centre --center --level --max --to --name --within --checks
             set position (math $position + 1)
         end
         set before $word
@@ -44,7 +45,16 @@ complete -c tavimor-cli -n '__fish_seen_subcommand_from analyse degrees' -l as-s
 complete -c tavimor-cli -n '__fish_seen_subcommand_from analyse degrees' -l json -d 'Print a JSON object'
 complete -c tavimor-cli -n '__fish_seen_subcommand_from degrees' -l max -x -d 'The largest degrees'
 complete -c tavimor-cli -n '__fish_seen_subcommand_from degrees' -l all -d 'All combinations'
-complete -c tavimor-cli -n '__fish_seen_subcommand_from fit show eval analyse degrees report copy; and __tavimor_cli_position 0' \
+complete -c tavimor-cli -n __fish_use_subcommand -a export -d 'Write the fit as a formula'
+complete -c tavimor-cli -n __fish_use_subcommand -a residuals -d 'Write a table of given and fitted values'
+complete -c tavimor-cli -n '__fish_seen_subcommand_from export residuals' -s o -l output -r -F -d 'Write to a file'
+complete -c tavimor-cli -n '__fish_seen_subcommand_from export' -l to -x -d 'The form' \
+    -a 'c c++ python fortran octave r javascript latex text gnuplot xlsx json'
+complete -c tavimor-cli -n '__fish_seen_subcommand_from export' -l name -x -d 'The name of the function'
+complete -c tavimor-cli -n '__fish_seen_subcommand_from export' -l within -x -d 'Round, staying within'
+complete -c tavimor-cli -n '__fish_seen_subcommand_from export' -l checks -x -d 'The number of check points'
+complete -c tavimor-cli -n '__fish_seen_subcommand_from export' -l nan-outside -d 'NaN outside the intervals'
+complete -c tavimor-cli -n '__fish_seen_subcommand_from fit show eval analyse degrees report copy export residuals; and __tavimor_cli_position 0' \
     -a '(__tavimor_cli_problems)'
 complete -c tavimor-cli -n '__fish_seen_subcommand_from copy; and __tavimor_cli_position 1' -F
 complete -c tavimor-cli -n '__fish_seen_subcommand_from import' -F

@@ -30,6 +30,9 @@ constexpr Command kCommands[] = {
     {"copy", "Open the problem and save it under another name", "copy ozone ozone-2"},
     {"import", "Make a problem of a table", "import table.csv gauge --degree 2,1", "TABLE",
      "a file of numbers in columns, or - for standard input"},
+    {"export", "Write the fit as a formula in many forms, or the whole as JSON",
+     "export ozone --to python -o ozone.py"},
+    {"residuals", "Write a table of given and fitted values", "residuals ozone -o ozone.csv"},
 };
 
 std::string exampleLine(const Command& command) { return std::string("tavimor-cli ") + command.example; }
@@ -69,6 +72,12 @@ void addCommands(CLI::App& app, Arguments& arguments) {
   plainly(app.get_subcommand("copy")->add_option("OUT", arguments.output, "the copy's name: OUT and OUT.dat"))
       ->required()
       ->check(refusalOfEmptyName);
+  addExportOptions(*app.get_subcommand("export"), arguments.exporting);
+  for (const char* command : {"export", "residuals"})
+    app.get_subcommand(command)
+        ->add_option("-o,--output", arguments.output, "write to the file OUT, not to standard output")
+        ->type_name("OUT")
+        ->check(refusalOfEmptyName);
 }
 
 bool isNegativeNumber(const std::string& word) {

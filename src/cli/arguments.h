@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "cli/commands.h"
+#include "cli/export_command.h"
 #include "cli/import_command.h"
 
 namespace tavimor {
@@ -17,6 +18,7 @@ struct Arguments {
   std::vector<std::string> values;  // of the point to evaluate
   CommandOptions options;
   ImportArguments importing;
+  ExportArguments exporting;
 };
 
 /// Either arguments to run with or, where there is an exit code, the text to leave the user with: help or version for

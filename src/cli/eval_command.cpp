@@ -12,7 +12,6 @@
 #include "cli/problem_files.h"
 #include "engine/polynomial.h"
 #include "platform/terminal.h"
-#include "report/no_fit_text.h"
 #include "runtime/bad_file.h"
 #include "runtime/number_text.h"
 #include "runtime/text.h"
@@ -80,15 +79,6 @@ void evaluateInput(const Problem& problem, const PrintPoint& print) {
     }
     print(*point);
   }
-}
-
-// False where there is no fit to evaluate, which the user has been told then.
-bool provideFit(OpenedProblem& opened, const std::string& path) {
-  if (opened.fit.FitDone) return true;
-  const FitOutcome outcome = fitShowingProgress(opened);
-  if (outcome.end == FitEnd::Found) return true;
-  complain(path, reasonForNoFit(opened.problem, outcome));
-  return false;
 }
 
 }  // namespace

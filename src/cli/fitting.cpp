@@ -2,8 +2,10 @@
 
 #include <utility>
 
+#include "cli/output.h"
 #include "cli/progress_bar.h"
 #include "model/capture_specs.h"
+#include "report/no_fit_text.h"
 
 namespace tavimor {
 
@@ -15,6 +17,14 @@ FitOutcome fitShowingProgress(OpenedProblem& opened) {
   FitOutcome outcome = fit(opened.problem, options, opened.fit);
   opened.fit = std::exchange(outcome.fit, {});
   return outcome;
+}
+
+bool provideFit(OpenedProblem& opened, const std::string& path) {
+  if (opened.fit.FitDone) return true;
+  const FitOutcome outcome = fitShowingProgress(opened);
+  if (outcome.end == FitEnd::Found) return true;
+  complain(path, reasonForNoFit(opened.problem, outcome));
+  return false;
 }
 
 }  // namespace tavimor

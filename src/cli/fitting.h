@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 #include "engine/fit.h"
 #include "formats/open_problem.h"
 
@@ -8,5 +10,9 @@ namespace tavimor {
 /// Does what the window's Compute button does, with a progress bar: captures the fields and fits. The outcome's fit
 /// takes the place of the problem's, done or not.
 FitOutcome fitShowingProgress(OpenedProblem& opened);
+
+/// Fits the problem of that path unless it has a stored fit. False where there is none, which the user has been told
+/// then.
+bool provideFit(OpenedProblem& opened, const std::string& path);
 
 }  // namespace tavimor

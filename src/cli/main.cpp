@@ -5,6 +5,7 @@
 
 #include "cli/arguments.h"
 #include "cli/commands.h"
+#include "cli/export_command.h"
 #include "cli/import_command.h"
 #include "cli/output.h"
 #include "platform/held_signals.h"
@@ -22,6 +23,8 @@ ExitCode run(const Arguments& arguments) {
   if (arguments.command == "degrees") return degreesCommand(arguments.problem, arguments.options);
   if (arguments.command == "report") return reportCommand(arguments.problem);
   if (arguments.command == "import") return importCommand(arguments.problem, arguments.output, arguments.importing);
+  if (arguments.command == "export") return exportCommand(arguments.problem, arguments.output, arguments.exporting);
+  if (arguments.command == "residuals") return residualsCommand(arguments.problem, arguments.output);
   return copyCommand(arguments.problem, arguments.output);
 }
 

@@ -16,8 +16,10 @@ void require(bool written) {
 
 }  // namespace
 
+void printText(const std::string& text) { require(std::fwrite(text.data(), 1, text.size(), stdout) == text.size()); }
+
 void printLine(const std::string& line) {
-  require(std::fwrite(line.data(), 1, line.size(), stdout) == line.size());
+  printText(line);
   require(std::fputc('\n', stdout) != EOF);
 }
 

@@ -76,13 +76,15 @@ TEST_P(HelpOfCommand, ShowsItsUseAndAnExample) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Commands, HelpOfCommand,
-                         testing::Values("fit", "show", "eval", "analyse", "degrees", "report", "copy"));
+                         testing::Values("fit", "show", "eval", "analyse", "degrees", "report", "copy", "export",
+                                         "residuals"));
 
 TEST(Help, ListsTheCommandsWithAnExampleOfEach) {
   const Outcome outcome = tavimorCli({"--help"});
   EXPECT_EQ(outcome.exitCode, 0);
   EXPECT_EQ(outcome.err, "");
-  for (const std::string command : {"fit", "show", "eval", "analyse", "degrees", "report", "copy", "import"})
+  for (const std::string command :
+       {"fit", "show", "eval", "analyse", "degrees", "report", "copy", "import", "export", "residuals"})
     EXPECT_THAT(outcome.out, AllOf(HasSubstr("\n  " + command + " "), HasSubstr("\n  tavimor-cli " + command + " ")));
 }
 

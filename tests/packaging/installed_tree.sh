@@ -16,6 +16,8 @@ expectEqual "version of tavimor-cli" "tavimor-cli $version" "$("$prefix/bin/tavi
 examples=$share/doc/tavimor/examples
 "$prefix/bin/tavimor-cli" fit "$examples/heat-index" >"$work/listing"
 grep -q '\*T^2\*R^2 *$' "$work/listing" || fail "the installed example has no fit"
+"$prefix/bin/tavimor-cli" export "$examples/heat-index" --to xlsx -o "$work/heat-index.xlsx"
+unzip -tq "$work/heat-index.xlsx" >/dev/null || fail "the installed program writes no workbook"
 while read -r problem; do
   cmp "$problem" "$examples/${problem#"$source_folder/examples/"}" || fail "an example is not what it was"
 done < <(find "$source_folder/examples" -type f ! -name '.*' ! -path '*/__pycache__/*')

@@ -17,7 +17,7 @@ cd "$work/packages"
 TMPDIR=$work lintian --allow-root --fail-on error,warning ./*.deb
 field() { dpkg-deb --field "$1"_*.deb "$2"; }
 expectEqual "what tavimor-cli depends on" "" "$(field tavimor-cli Depends)"
-for library in libc6 libqt6widgets6 libqt6printsupport6 libmuparser2v5; do
+for library in libc6 libqt6widgets6 libqt6printsupport6 libmuparser2v5 libxlsxwriter4; do
   field tavimor Depends | grep -q "$library (>= " || fail "tavimor does not depend on $library"
 done
 for package in tavimor tavimor-cli; do

@@ -1,0 +1,55 @@
+#include "cli/export_command.h"
+
+#include "cli/fitting.h"
+#include "cli/output.h"
+#include "formats/formulas/export_formats.h"
+#include "formats/formulas/make_formula.h"
+#include "formats/formulas/residual_table.h"
+#include "formats/replaced_file.h"
+
+namespace tavimor {
+
+namespace {
+
+void requireFitting(const ExportFormat& format, const std::string& output, const FormulaOptions& options) {
+  if (format.kind == ExportKind::Bytes && output.empty())
+    throw UsageError(std::string(format.name) + " goes to a file: -o OUT is needed");
+  if (format.kind == ExportKind::Problem && options.within)
+    throw UsageError("--within does not go with " + std::string(format.name) + ", which holds the whole problem");
+}
+
+void deliver(const std::string& bytes, const std::string& output) {
+  if (!output.empty()) return replaceFile(output, bytes);
+  printText(bytes);
+  finishOutput();
+}
+
+// False where there is no formula, which the user has been told then.
+bool provideFormula(OpenedProblem& opened, const std::string& path) {
+  if (!provideFit(opened, path)) return false;
+  if (hasFormula(opened.fit)) return true;
+  complain(path, "no formula: a coefficient of the fit is no number");
+  return false;
+}
+
+}  // namespace
+
+ExitCode exportCommand(const std::string& problem, const std::string& output, const ExportArguments& arguments) {
+  const ExportFormat& format = *exportFormat(arguments.format);
+  FormulaOptions options = arguments.options;
+  requireFitting(format, output, options);
+  if (options.name.empty()) options.name = formulaNameOf(problem);
+  OpenedProblem opened = openProblem(problem);
+  if (format.kind != ExportKind::Problem && !provideFormula(opened, problem)) return ExitCode::NoFit;
+  deliver(format.write(opened.problem, opened.fit, options), output);
+  return ExitCode::Success;
+}
+
+ExitCode residualsCommand(const std::string& problem, const std::string& output) {
+  OpenedProblem opened = openProblem(problem);
+  if (!provideFit(opened, problem)) return ExitCode::NoFit;
+  deliver(residualTable(opened.problem, opened.fit), output);
+  return ExitCode::Success;
+}
+
+}  // namespace tavimor
