@@ -38,6 +38,8 @@ void frmTavimor::Form_Load() {
   cmdEditFun->setEnabled(false);
   cmdCompute->setEnabled(false);
   cmdEvaluations->setEnabled(false);
+  mnuExport->setEnabled(false);
+  mnuCopyTable->setEnabled(false);
   txtOrder->setFocus();
 
   setAcceptDrops(true);
@@ -65,6 +67,8 @@ void frmTavimor::connectCommands() {
   connect(mnuSave, &QAction::triggered, this, &frmTavimor::mnuSave_Click);
   connect(mnuSaveAs, &QAction::triggered, this, &frmTavimor::mnuSaveAs_Click);
   connect(mnuPrint, &QAction::triggered, this, &frmTavimor::mnuPrint_Click);
+  connect(mnuExport, &QAction::triggered, this, &frmTavimor::mnuExport_Click);
+  connect(mnuCopyTable, &QAction::triggered, this, &frmTavimor::mnuCopyTable_Click);
   connect(mnuHelp, &QAction::triggered, this, &frmTavimor::mnuHelp_Click);
   connect(mnuAbout, &QAction::triggered, this, &frmTavimor::mnuAbout_Click);
   connect(cmdNextVar, &QPushButton::clicked, this, &frmTavimor::cmdNextVar_Click);

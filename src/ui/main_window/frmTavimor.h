@@ -99,6 +99,11 @@ class frmTavimor : public Form, private MainControls {
   void importText(std::string_view text);
   void takeDropped(const QString& file, const std::string& text);
 
+  // Formulas
+  void mnuExport_Click();
+  void mnuCopyTable_Click();
+  bool hasFormulaToExport() const;
+
   // Compute and listing
   void cmdCompute_Click();
   void ClearResults();
@@ -106,6 +111,7 @@ class frmTavimor : public Form, private MainControls {
   void fitTablesToSpecs();
   void ShowResults();
   void ShowFitIfDone();
+  void enableWhatNeedsAFit();
   AllSpecFields specFields() const;
 
   // Values and function

@@ -41,6 +41,9 @@ void MainControls::makeControls() {
   lstCoeff = new ListBox(QStringLiteral("lstCoeff"));
   lstCoeff->setToolTip(QStringLiteral("Coefficients"));
   lstCoeff->setAccessibleName(QStringLiteral("Coefficients"));
+  mnuCopyTable = new QAction(QStringLiteral("Copy as table"), lstCoeff);
+  mnuCopyTable->setObjectName(QStringLiteral("mnuCopyTable"));
+  lstCoeff->addAction(mnuCopyTable);
 }
 
 void MainControls::labelBlock(std::size_t k) const {

@@ -27,6 +27,7 @@ struct MainControls {
   QAction* mnuTools;
   QAction* mnuImport;
   QAction* mnuPaste;
+  QAction* mnuExport;
   QAction* mnuHelp;
   QAction* mnuAbout;
 
@@ -50,6 +51,7 @@ struct MainControls {
   QPushButton* cmdCompute;
   QPushButton* cmdEvaluations;
   ListBox* lstCoeff;
+  QAction* mnuCopyTable;  // in the context menu of the list
 
   /// Makes the next block, hidden, in the place that all blocks share.
   void addBlock();

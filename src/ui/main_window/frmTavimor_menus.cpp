@@ -51,6 +51,7 @@ void MainControls::makeToolsMenu() {
   mnuPaste = addItem(*menu, "mnuPaste", "&Paste table", Qt::CTRL | Qt::SHIFT | Qt::Key_V);
   for (QAction* item : {mnuImport, mnuPaste})
     QObject::connect(mnuOpen, &QAction::enabledChanged, item, &QAction::setEnabled);
+  mnuExport = addItem(*menu, "mnuExport", "&Export formula...", Qt::CTRL | Qt::Key_E);
 }
 
 }  // namespace tavimor

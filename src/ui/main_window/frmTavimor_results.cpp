@@ -18,7 +18,7 @@ void frmTavimor::cmdCompute_Click() {
   if (!model_.FitDone) return;
   QApplication::beep();
   ShowResults();
-  cmdEvaluations->setEnabled(true);
+  enableWhatNeedsAFit();
 }
 
 void frmTavimor::ClearResults() {
@@ -56,7 +56,13 @@ void frmTavimor::ShowResults() {
 void frmTavimor::ShowFitIfDone() {
   if (!model_.FitDone) return;
   ShowResults();
+  enableWhatNeedsAFit();
+}
+
+void frmTavimor::enableWhatNeedsAFit() {
   cmdEvaluations->setEnabled(true);
+  mnuExport->setEnabled(true);
+  mnuCopyTable->setEnabled(true);
 }
 
 AllSpecFields frmTavimor::specFields() const {

@@ -59,10 +59,15 @@ TEST_F(Appearance, ToolTipsAreExact) {
 
 TEST_F(Appearance, TheMenusHaveTheirNamesCaptionsAndKeys) {
   const std::vector<std::tuple<const char*, const char*, const char*>> items = {
-      {"mnuFile", "File", ""},         {"mnuOpen", "Open", "Ctrl+O"},
-      {"mnuSave", "Save", "Ctrl+S"},   {"mnuSaveAs", "Save As", "Ctrl+Shift+S"},
-      {"mnuPrint", "Print", "Ctrl+P"}, {"mnuHelp", "Help", ""},
-      {"mnuAbout", "About", ""}};
+      {"mnuFile", "File", ""},
+      {"mnuOpen", "Open", "Ctrl+O"},
+      {"mnuSave", "Save", "Ctrl+S"},
+      {"mnuSaveAs", "Save As", "Ctrl+Shift+S"},
+      {"mnuPrint", "Print", "Ctrl+P"},
+      {"mnuHelp", "Help", ""},
+      {"mnuAbout", "About", ""},
+      {"mnuTools", "Tools", ""},
+      {"mnuExport", "Export formula...", "Ctrl+E"}};
   for (const auto& [name, caption, key] : items) {
     EXPECT_EQ(item(name).text().remove('&'), caption);
     EXPECT_EQ(item(name).shortcut().toString(QKeySequence::PortableText), key);
