@@ -20,7 +20,7 @@ completed() {
 commands=$("$share/../bin/tavimor-cli" --help | sed -n '/^Commands:/,/^$/s/^  \([a-z]*\) .*/\1/p' | LC_ALL=C sort | paste -s -d ' ')
 problems="data heat-index load-cell nist offset-print ozone silicon-index sound-speed"
 expectEqual "commands" "--help --version $commands" "$(completed tavimor-cli '')"
-expectEqual "a command" "report" "$(completed tavimor-cli r)"
+expectEqual "a command" "report" "$(completed tavimor-cli rep)"
 for command in $commands; do
   [ "$command" = import ] || expectEqual "problems to $command" "$problems" "$(completed tavimor-cli "$command" '')"
 done
@@ -34,6 +34,10 @@ expectEqual "options of fit" "--centre --degree --help --no-check --output --pre
 expectEqual "options of eval" "--help --interval --level" "$(completed tavimor-cli eval -)"
 expectEqual "files to write" "ozone ozone.dat" "$(completed tavimor-cli fit --output oz)"
 expectEqual "the problem behind them" "ozone" "$(completed tavimor-cli fit -o fitted oz)"
+expectEqual "forms" "javascript json" "$(completed tavimor-cli export ozone --to j)"
+expectEqual "the problem behind the form" "ozone" "$(completed tavimor-cli export --to json oz)"
+expectEqual "options of export" "--checks --help --name --nan-outside --output --to --within" \
+  "$(completed tavimor-cli export -)"
 expectEqual "the copy" "ozone ozone.dat" "$(completed tavimor-cli copy ozone oz)"
 
 folder=$(mktemp -d)
@@ -49,6 +53,7 @@ fishCompleted() {
 expectEqual "commands in fish" "$commands" "$(fishCompleted 'tavimor-cli ')"
 expectEqual "problems in fish" "$problems" "$(fishCompleted 'tavimor-cli fit -o fitted ')"
 expectEqual "values in fish" "" "$(fishCompleted 'tavimor-cli eval ozone ')"
+expectEqual "forms in fish" "javascript json" "$(fishCompleted 'tavimor-cli export ozone --to j')"
 expectEqual "the copy in fish" "ozone ozone.dat" "$(fishCompleted 'tavimor-cli copy ozone oz')"
 
 functions=$(dirname "$(find "$share/zsh" -name _tavimor-cli)")
