@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <QFile>
+
 #include "engine/Compute.h"
 #include "support/stored.h"
 #include "ui/support/main_window_test.h"
@@ -134,6 +136,7 @@ TEST_F(Open, ALaterOneThatIsCalledOffOpensThePreviousFile) {
   dialogs.expectAndPress("OK");
   press(Qt::Key_O, Qt::ControlModifier);
   activate();
+  QFile::remove(pathOf("problem"));
   writeFitted("problem");
   dialogs.expectAndCancel();
   press(Qt::Key_O, Qt::ControlModifier);

@@ -141,16 +141,19 @@ TEST_F(Save, ToANameThatAnotherKindOfFileHasGotSinceIsRefusedAndTheUserGoesOn) {
   declare("1", "x");
   dialogs.expectAndType(pathOf("problem"));
   saveByKey();
+  activate();
   writeFile("problem.dat", "Dear Sir");
   QString text;
   dialogs.expectAndPress("OK", &text);
   saveByKey();
+  activate();
   EXPECT_EQ(text.toStdString(),
             "Not saved: the file is there already and is not the values of a problem\n" + file("problem.dat"));
   EXPECT_EQ(contentOf("problem.dat"), "Dear Sir");
   EXPECT_TRUE(window->isOpen());
   dialogs.expectAndCancel();
   saveByKey();
+  activate();
   EXPECT_EQ(contentOf("problem.dat"), "Dear Sir");
   dialogs.expectAndType(pathOf("other"));
   saveByKey();
