@@ -43,7 +43,7 @@ bool isOwnOrNew(const std::string& path) {
     requireSameHalves(path);
     return true;
   } catch (const Failure& failure) {
-    showWarning(QString::fromStdString(failure.report() + "\n" + failure.path()));
+    showWarning(QString::fromStdString(failure.report() + "\n" + withEscapes(failure.path())));
     return false;
   }
 }

@@ -122,7 +122,7 @@ void frmTavimor::SaveProblem() {
     writeProblem(model_, model_, model_.FileName);
   } catch (const ForeignFile& failure) {
     refusedFile_ = std::exchange(model_.FileName, {});
-    showWarning(QString::fromStdString(failure.report() + "\n" + failure.path()));
+    showWarning(QString::fromStdString(failure.report() + "\n" + withEscapes(failure.path())));
   }
 }
 
