@@ -9,7 +9,7 @@
 namespace tavimor {
 
 std::string wholeText(const std::string& path) {
-  const FileHandle file = openFile(path, "rb");
+  const FileHandle file = openForReading(path);
   if (!file) throw fileError(errno, path);
   std::string text;
   std::array<char, 65536> chunk;

@@ -44,7 +44,7 @@ void TableText::grow(std::size_t capacity) {
 }
 
 TableText TableText::ofFile(const std::string& path) {
-  const FileHandle file = openFile(path, "rb");
+  const FileHandle file = openForReading(path);
   if (!file) throw fileError(errno, path);
   return {expectedBytes(path), [&](char* target, std::size_t most) {
             const std::size_t count = std::fread(target, 1, most, file.get());
