@@ -66,9 +66,9 @@ void ScriptHost::ExecuteStatement(std::string_view statement) {
     run(statement);
     return;
   } catch (const ScriptFailure& failure) {
-    report(failure.what(), failure.at(), statement);
+    error_.Description = failure.what();
   } catch (const RunTimeError& error) {
-    report(error.what(), nullptr, statement);
+    error_.Description = error.what();
   }
   if (onError_) onError_();
   throw RunTimeError(ErrorNumber::ScriptReported);
@@ -92,15 +92,6 @@ double ScriptHost::valueOf(std::string_view expression) {
   } catch (const mu::ParserError& error) {
     throw code.failure(error);
   }
-}
-
-void ScriptHost::report(std::string_view reason, const char* at, std::string_view statement) {
-  error_.Description = reason;
-  if (at != nullptr) {
-    const auto before = static_cast<std::size_t>(at - statement.data());
-    error_.Description += ", character " + std::to_string(characterCount(statement.substr(0, before)) + 1);
-  }
-  error_.Description += "\nStatement: " + shortened(statement);
 }
 
 }  // namespace tavimor

@@ -13,7 +13,7 @@ namespace tavimor {
 
 class ExpressionParser;
 
-/// The error of the last statement that failed; Description says what is wrong and in which statement.
+/// The error of the last statement that failed; Description says what is wrong, and that alone.
 struct ScriptError {
   std::string Description;
 };
@@ -23,12 +23,10 @@ enum class AddMembers { No, Yes };
 /// The engine that runs single statements of a script language, each an assignment: "name=expression".
 ///
 /// Names        a letter from A to Z, then letters, digits and underscores, at most 255 characters, in any case, none
-/// of
-///              the language's reserved words. A variable comes into being with its first assignment.
+///              of the language's reserved words. A variable comes into being with its first assignment.
 /// Expressions  + - * / ^ \ Mod and parentheses; numbers with a decimal point and an exponent, "2.25E-05"; the
-/// functions
-///              Abs Atn Cos Exp Fix Int Log Round Sgn Sin Sqr Tan; the members of the published objects. Powers go from
-///              left to right and bind tighter than a sign: -2^2 is -4. Nothing else is predefined.
+///              functions Abs Atn Cos Exp Fix Int Log Round Sgn Sin Sqr Tan; the members of the published objects.
+///              Powers go from left to right and bind tighter than a sign: -2^2 is -4. Nothing else is predefined.
 /// Errors       a statement that cannot be read or run changes nothing but Class1's ierr. It sets Error, then calls the
 ///              error handler, then raises the run-time error ScriptReported. Division by zero, a function without a
 ///              value at its argument and a value too large for a double are errors too.
@@ -52,7 +50,6 @@ class ScriptHost {
  private:
   void run(std::string_view statement);
   double valueOf(std::string_view expression);
-  void report(std::string_view reason, const char* at, std::string_view statement);
 
   ScriptNames names_;
   std::deque<double> variables_;  // a deque, since the parser keeps their addresses

@@ -29,10 +29,10 @@ std::string ParserCode::codeOf(std::size_t n, const std::vector<Token>& tokens, 
   if (tokens[n].kind != TokenKind::Name) return std::string(text);
   if (lowerCase(text) == "mod") return "%";
   if (names.find(text) == nullptr && isIdentifier(text) && isNext("(", n, tokens))
-    throw ScriptFailure("There is no function '" + std::string(text) + "'", text.data());
+    throw ScriptFailure("There is no function '" + std::string(text) + "'");
   const Symbol& symbol = names.symbolInExpression(text);
   if (symbol.kind == Symbol::Kind::Function && !isNext("(", n, tokens))
-    throw ScriptFailure("The function '" + std::string(text) + "' needs its argument in parentheses", text.data());
+    throw ScriptFailure("The function '" + std::string(text) + "' needs its argument in parentheses");
   return symbol.code;
 }
 
@@ -57,7 +57,7 @@ ScriptFailure ParserCode::failure(const mu::ParserError& error) const {
     }
     default: {
       const std::string_view text = pieceAt(error.GetPos()).token.text;
-      return ScriptFailure("Syntax error at '" + std::string(text) + "'", text.data());
+      return ScriptFailure("Syntax error at '" + std::string(text) + "'");
     }
   }
 }

@@ -19,7 +19,7 @@ class ParserCode {
 
   const std::string& text() const { return text_; }
 
-  /// The parser's error in the words of this engine, at its place in the expression.
+  /// The parser's error in the words of this engine.
   ScriptFailure failure(const mu::ParserError& error) const;
 
  private:

@@ -17,8 +17,7 @@ bool isMemberName(std::string_view name) {
 }
 
 void checkNotReserved(std::string_view name) {
-  if (isReservedWord(name))
-    throw ScriptFailure(quoted(name) + " is a reserved word of the script language", name.data());
+  if (isReservedWord(name)) throw ScriptFailure(quoted(name) + " is a reserved word of the script language");
 }
 
 void checkName(std::string_view name) {
@@ -47,8 +46,8 @@ void ScriptNames::reportUnknownMember(std::string_view name) const {
   const std::string_view member = name.substr(object.size() + 1);
   const Symbol* symbol = find(object);
   if (symbol != nullptr && symbol->kind == Symbol::Kind::Object)
-    throw ScriptFailure(quoted(object) + " has no member " + quoted(member), member.data());
-  throw ScriptFailure(quoted(object) + " is not an object", name.data());
+    throw ScriptFailure(quoted(object) + " has no member " + quoted(member));
+  throw ScriptFailure(quoted(object) + " is not an object");
 }
 
 const Symbol& ScriptNames::symbolInExpression(std::string_view name) const {
@@ -56,10 +55,9 @@ const Symbol& ScriptNames::symbolInExpression(std::string_view name) const {
   if (symbol == nullptr) {
     if (isMemberName(name)) reportUnknownMember(name);
     checkNotReserved(name);
-    throw ScriptFailure("Nothing is known of " + quoted(name) + ": no value has been assigned to it", name.data());
+    throw ScriptFailure("Nothing is known of " + quoted(name) + ": no value has been assigned to it");
   }
-  if (symbol->kind == Symbol::Kind::Object)
-    throw ScriptFailure(quoted(name) + " is an object and has no value", name.data());
+  if (symbol->kind == Symbol::Kind::Object) throw ScriptFailure(quoted(name) + " is an object and has no value");
   return *symbol;
 }
 

@@ -25,7 +25,7 @@ class ScriptNames {
   /// The symbol of a name, null if there is none.
   const Symbol* find(std::string_view name) const;
 
-  /// Errors: ScriptFailure at a name that does not stand for a value or a function.
+  /// Errors: ScriptFailure for a name that does not stand for a value or a function.
   const Symbol& symbolInExpression(std::string_view name) const;
 
   /// The symbol to assign to, null for a name that is still free.

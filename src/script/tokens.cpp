@@ -33,7 +33,7 @@ std::size_t nameLength(std::string_view rest) {
 // Digits that are no numeral are a number too large for a double.
 std::size_t numberLength(std::string_view rest) {
   const Numeral numeral = scanNumeral(rest.data(), rest.data() + rest.size());
-  if (numeral.end == rest.data()) throw ScriptFailure(description(ErrorNumber::Overflow), rest.data());
+  if (numeral.end == rest.data()) throw ScriptFailure(description(ErrorNumber::Overflow));
   return static_cast<std::size_t>(numeral.end - rest.data());
 }
 
@@ -47,7 +47,7 @@ Token firstToken(std::string_view rest) {
   if (beginsIdentifier(rest.front())) return {TokenKind::Name, rest.substr(0, nameLength(rest))};
   if (beginsNumber(rest)) return {TokenKind::Number, rest.substr(0, numberLength(rest))};
   if (kSymbols.find(rest.front()) != kSymbols.npos) return {TokenKind::Symbol, rest.substr(0, 1)};
-  throw ScriptFailure("Syntax error at '" + std::string(firstCharacter(rest)) + "'", rest.data());
+  throw ScriptFailure("Syntax error at '" + std::string(firstCharacter(rest)) + "'");
 }
 
 }  // namespace

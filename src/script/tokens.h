@@ -14,7 +14,7 @@ struct Token {
 };
 
 /// The expression in pieces. A symbol is one of + - * / \ ^ ( ) and the comma.
-/// Errors: ScriptFailure at a character that is none of these, at a numeral too large for a double.
+/// Errors: ScriptFailure for a character that is none of these, for a numeral too large for a double.
 std::vector<Token> tokens(std::string_view expression);
 
 }  // namespace tavimor

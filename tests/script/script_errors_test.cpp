@@ -17,8 +17,8 @@ void PrintTo(const FailingStatement& failing, std::ostream* out) { *out << faili
 
 class ScriptErrors : public ScriptTest, public ::testing::WithParamInterface<FailingStatement> {};
 
-TEST_P(ScriptErrors, SayWhatIsWrongAndWhere) {
-  EXPECT_EQ(errorOf(GetParam().statement), std::string(GetParam().reason) + "\nStatement: " + GetParam().statement);
+TEST_P(ScriptErrors, SayWhatIsWrongAndNothingElse) {
+  EXPECT_EQ(errorOf(GetParam().statement), GetParam().reason);
   EXPECT_THAT(told, ElementsAre(host.Error().Description));
   EXPECT_THROW(value("x"), RunTimeError) << "a failed statement assigns nothing";
 }
@@ -41,52 +41,44 @@ INSTANTIATE_TEST_SUITE_P(
         FailingStatement{"DifferenceTooLarge", "x=-1.5E308-1.5E308", "Overflow"},
         FailingStatement{"QuotientTooLarge", "x=1E300/1E-300", "Overflow"},
         FailingStatement{"PowerTooLarge", "x=10^400", "Overflow"},
-        FailingStatement{"NumberTooLarge", "x=2+1E400", "Overflow, character 5"},
+        FailingStatement{"NumberTooLarge", "x=2+1E400", "Overflow"},
         FailingStatement{"RootByAPower", "x=(-8)^0.5", "Invalid procedure call or argument"},
         FailingStatement{"ZeroToANegativePower", "x=0^(-1)", "Invalid procedure call or argument"},
-        FailingStatement{"UnknownName", "x=1+foo*2",
-                         "Nothing is known of 'foo': no value has been assigned to it, character 5"},
-        FailingStatement{"Infinity", "x=INF",
-                         "Nothing is known of 'INF': no value has been assigned to it, character 3"},
-        FailingStatement{"UnknownFunction", "x=2*Foo(1)", "There is no function 'Foo', character 5"},
+        FailingStatement{"UnknownName", "x=1+foo*2", "Nothing is known of 'foo': no value has been assigned to it"},
+        FailingStatement{"Infinity", "x=INF", "Nothing is known of 'INF': no value has been assigned to it"},
+        FailingStatement{"UnknownFunction", "x=2*Foo(1)", "There is no function 'Foo'"},
         FailingStatement{"FunctionWithoutParentheses", "x=1+Sin",
-                         "The function 'Sin' needs its argument in parentheses, character 5"},
+                         "The function 'Sin' needs its argument in parentheses"},
         FailingStatement{"FunctionWithoutArgument", "x=Sin()", "Wrong number of arguments: 'Sin'"},
         FailingStatement{"FunctionWithTwoArguments", "x=Asin(1,2)", "Wrong number of arguments: 'Asin'"},
         FailingStatement{"RoundWithThreeArguments", "x=Round(1,2,3)", "Wrong number of arguments: 'Round'"},
         FailingStatement{"RoundWithoutArgument", "x=Round()", "Wrong number of arguments: 'Round'"},
-        FailingStatement{"ObjectAsAValue", "x=sh", "'sh' is an object and has no value, character 3"},
+        FailingStatement{"ObjectAsAValue", "x=sh", "'sh' is an object and has no value"},
         FailingStatement{"NoSign", "x", "A statement has the form name=expression"},
         FailingStatement{"NoStatement", "", "A statement has the form name=expression"},
         FailingStatement{"NoExpression", "x=", "An expression is missing behind '='"},
         FailingStatement{"BlankExpression", "x=  ", "An expression is missing behind '='"},
-        FailingStatement{"TwoSigns", "x=1=1", "Syntax error at '=', character 4"},
+        FailingStatement{"TwoSigns", "x=1=1", "Syntax error at '='"},
         FailingStatement{"EndsWithAnOperator", "x=1+", "The statement ends too early"},
-        FailingStatement{"EmptyParentheses", "x=()", "Syntax error at ')', character 4"},
+        FailingStatement{"EmptyParentheses", "x=()", "Syntax error at ')'"},
         FailingStatement{"OneParenthesisTooFew", "x=(1+2", "A ')' is missing"},
-        FailingStatement{"OneParenthesisTooMany", "x=1+2)", "Syntax error at ')', character 6"},
-        FailingStatement{"TwoNumbers", "x=1 2", "Syntax error at '2', character 5"},
-        FailingStatement{"DecimalComma", "x=1,5", "Syntax error at ',', character 4"},
-        FailingStatement{"CommaInParentheses", "x=(1,5)", "Syntax error at ')', character 7"},
-        FailingStatement{"TwoPoints", "x=1.2.3", "Syntax error at '.3', character 6"},
-        FailingStatement{"NameBehindANumber", "x=2pi", "Syntax error at 'pi', character 4"},
-        FailingStatement{"ValueAsAFunction", "x=pi(1)", "Syntax error at '(', character 5"},
-        FailingStatement{"TwoOperators", "x=1*/2", "Syntax error at '/', character 5"},
-        FailingStatement{"LoneMod", "x=Mod 2", "Syntax error at 'Mod', character 3"},
-        FailingStatement{"StrangeCharacter", "x=ä$", "Syntax error at 'ä', character 3"},
-        FailingStatement{"CharacterBehindAStrangeName", "x=1 § 2", "Syntax error at '§', character 5"}),
+        FailingStatement{"OneParenthesisTooMany", "x=1+2)", "Syntax error at ')'"},
+        FailingStatement{"TwoNumbers", "x=1 2", "Syntax error at '2'"},
+        FailingStatement{"DecimalComma", "x=1,5", "Syntax error at ','"},
+        FailingStatement{"CommaInParentheses", "x=(1,5)", "Syntax error at ')'"},
+        FailingStatement{"TwoPoints", "x=1.2.3", "Syntax error at '.3'"},
+        FailingStatement{"NameBehindANumber", "x=2pi", "Syntax error at 'pi'"},
+        FailingStatement{"ValueAsAFunction", "x=pi(1)", "Syntax error at '('"},
+        FailingStatement{"TwoOperators", "x=1*/2", "Syntax error at '/'"},
+        FailingStatement{"LoneMod", "x=Mod 2", "Syntax error at 'Mod'"},
+        FailingStatement{"StrangeCharacter", "x=ä$", "Syntax error at 'ä'"},
+        FailingStatement{"CharacterBehindAStrangeName", "x=1 § 2", "Syntax error at '§'"}),
     [](const auto& test) { return test.param.name; });
-
-TEST_F(ScriptTest, ALongStatementIsShownShortened) {
-  const std::string error = errorOf("x=" + std::string(500, '(') + "ä");
-  EXPECT_LT(error.size(), 200u);
-  EXPECT_THAT(error, ::testing::EndsWith("..."));
-}
 
 TEST_F(ScriptTest, AnExpressionBeyondTheParsersLimitIsAnError) {
   std::string sum = "x=1";
   for (int n = 0; n < 10000; ++n) sum += "+1";
-  EXPECT_THAT(errorOf(sum), ::testing::StartsWith("The expression is too long\n"));
+  EXPECT_EQ(errorOf(sum), "The expression is too long");
 }
 
 // errorOf fails the test on any other run-time error, and any other exception ends it.

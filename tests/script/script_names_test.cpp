@@ -42,8 +42,7 @@ TEST_P(NoName, IsRefusedWithTheRule) {
   const std::string name = GetParam();
   EXPECT_EQ(errorOf(name + "=1.5"), "'" + name +
                                         "' cannot name a variable: a name is a letter (A to Z) followed by letters, "
-                                        "digits and underscores\nStatement: " +
-                                        name + "=1.5");
+                                        "digits and underscores");
 }
 
 INSTANTIATE_TEST_SUITE_P(Names, NoName,
@@ -61,7 +60,7 @@ INSTANTIATE_TEST_SUITE_P(Names, FunctionName,
                                            "Acosh", "Atanh", "sh.Asin"));
 
 TEST_F(ScriptTest, AReservedWordHasNoValueEither) {
-  EXPECT_THAT(errorOf("y=True"), StartsWith("'True' is a reserved word of the script language, character 3"));
+  EXPECT_THAT(errorOf("y=True"), StartsWith("'True' is a reserved word of the script language"));
 }
 
 TEST_F(ScriptTest, NamesThatDifferInCaseAreOneVariable) {
@@ -74,7 +73,16 @@ TEST_F(ScriptTest, ANameHasUpTo255Characters) {
   const std::string longest(255, 'x');
   host.ExecuteStatement(longest + "=1.5");
   EXPECT_EQ(value(longest), 1.5);
-  EXPECT_THAT(errorOf(longest + "x=1"), StartsWith("A name has at most 255 characters\n"));
+  EXPECT_THAT(errorOf(longest + "x=1"), StartsWith("A name has at most 255 characters"));
+}
+
+TEST_F(ScriptTest, ALongNameIsShownShortened) {
+  std::string name = "2";
+  for (int n = 0; n < 300; ++n) name += "ä";
+  const std::string error = errorOf(name + "=1");
+  EXPECT_THAT(error, StartsWith("'2ää"));
+  EXPECT_THAT(error, HasSubstr("ä...' cannot name a variable"));
+  EXPECT_LT(error.size(), 200u);
 }
 
 TEST_F(ScriptTest, TheObjectItselfCannotBeAssignedTo) {
@@ -82,8 +90,8 @@ TEST_F(ScriptTest, TheObjectItselfCannotBeAssignedTo) {
 }
 
 TEST_F(ScriptTest, AMemberMustExist) {
-  EXPECT_THAT(errorOf("sh.x=1"), StartsWith("'sh' has no member 'x', character 4"));
-  EXPECT_THAT(errorOf("y=sh.Foo(1)"), StartsWith("'sh' has no member 'Foo', character 6"));
+  EXPECT_THAT(errorOf("sh.x=1"), StartsWith("'sh' has no member 'x'"));
+  EXPECT_THAT(errorOf("y=sh.Foo(1)"), StartsWith("'sh' has no member 'Foo'"));
   EXPECT_THAT(errorOf("y.x=1"), StartsWith("'y' is not an object"));
 }
 
