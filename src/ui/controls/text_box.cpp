@@ -1,8 +1,14 @@
 #include "ui/controls/text_box.h"
 
+#include <QAction>
 #include <QApplication>
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QDropEvent>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
+#include <QMenu>
+#include <QMimeData>
 #include <utility>
 
 #include "ui/controls/typed_character.h"
@@ -101,7 +107,7 @@ void TextBox::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void TextBox::mouseReleaseEvent(QMouseEvent* event) {
-  if (!isEntryClick_) QLineEdit::mouseReleaseEvent(event);
+  if (!isEntryClick_) release(event);
   isEntryClick_ = false;
 }
 
@@ -132,6 +138,11 @@ void TextBox::press(QKeyEvent* event) {
     focusNextPrevChild(true);
     return;
   }
+  if (pasting_ == Pasting::AsTyped && event->matches(QKeySequence::Paste)) {
+    event->accept();
+    pasteAsTyped(QApplication::clipboard()->text());
+    return;
+  }
   QLineEdit::keyPressEvent(event);
 }
 
@@ -140,12 +151,52 @@ QChar TextBox::filtered(QChar character) {
   return character;
 }
 
+QString TextBox::filtered(const QString& text) {
+  QString kept;
+  for (const QChar character : text)
+    if (const QChar passed = filtered(character); !passed.isNull()) kept += passed;
+  return kept;
+}
+
 void TextBox::inputMethodEvent(QInputMethodEvent* event) {
-  QString accepted;
-  for (const QChar character : event->commitString())
-    if (const QChar kept = filtered(character); !kept.isNull()) accepted += kept;
-  event->setCommitString(accepted, event->replacementStart(), event->replacementLength());
+  event->setCommitString(filtered(event->commitString()), event->replacementStart(), event->replacementLength());
   QLineEdit::inputMethodEvent(event);
+}
+
+void TextBox::release(QMouseEvent* event) {
+  const bool pastes = event->button() == Qt::MiddleButton && QApplication::clipboard()->supportsSelection();
+  if (pasting_ == Pasting::AsItIs || !pastes) {
+    QLineEdit::mouseReleaseEvent(event);
+    return;
+  }
+  deselect();
+  pasteAsTyped(QApplication::clipboard()->text(QClipboard::Selection));
+}
+
+void TextBox::contextMenuEvent(QContextMenuEvent* event) {
+  QMenu* menu = createStandardContextMenu();
+  menu->setAttribute(Qt::WA_DeleteOnClose);
+  auto* paste = menu->findChild<QAction*>(QStringLiteral("edit-paste"));
+  if (pasting_ == Pasting::AsTyped && paste != nullptr) {
+    disconnect(paste, nullptr, this, nullptr);
+    connect(paste, &QAction::triggered, this, [this] { pasteAsTyped(QApplication::clipboard()->text()); });
+  }
+  menu->popup(event->globalPos());
+}
+
+void TextBox::dropEvent(QDropEvent* event) {
+  if (pasting_ == Pasting::AsItIs) {
+    QLineEdit::dropEvent(event);
+    return;
+  }
+  event->acceptProposedAction();
+  setCursorPosition(cursorPositionAt(event->position().toPoint()));
+  pasteAsTyped(event->mimeData()->text());
+}
+
+// A text of which nothing is kept leaves the selection, as a discarded key does.
+void TextBox::pasteAsTyped(const QString& text) {
+  if (const QString kept = filtered(text); !kept.isEmpty()) insert(kept);
 }
 
 }  // namespace tavimor

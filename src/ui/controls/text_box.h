@@ -10,6 +10,10 @@ namespace tavimor {
 /// What Enter does in a text box that has not swallowed it.
 enum class EnterKey { Stays, MovesOn };
 
+/// What becomes of text that is pasted or dropped into a text box: it goes in as it is, or each character passes the
+/// KeyPress event like a typed one.
+enum class Pasting { AsItIs, AsTyped };
+
 /// A text box with the events of the program's fields.
 ///
 /// Focus, in this order: Validate and LostFocus of the box that is left, then GotFocus of the one that is entered.
@@ -29,14 +33,15 @@ class TextBox : public QLineEdit {
   explicit TextBox(const QString& name, QWidget* parent = nullptr);
 
   void setEnterKey(EnterKey enterKey) { enterKey_ = enterKey; }
+  void setPasting(Pasting pasting) { pasting_ = pasting; }
 
  signals:
   void GotFocus();
   void Change();
   /// The key's Qt::Key code; a handler that sets it to 0 swallows the key.
   void KeyDown(int& keyCode);
-  /// A typed character, Backspace, Enter and Escape included, shortcuts and pasted text not; a handler may change it,
-  /// or discard it by making it null.
+  /// A typed character, Backspace, Enter and Escape included, shortcuts not, pasted text with Pasting::AsTyped only; a
+  /// handler may change it, or discard it by making it null.
   void KeyPress(QChar& character);
   void Validate(bool& cancel);
   void LostFocus();
@@ -46,6 +51,8 @@ class TextBox : public QLineEdit {
   void focusOutEvent(QFocusEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void inputMethodEvent(QInputMethodEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
@@ -58,9 +65,13 @@ class TextBox : public QLineEdit {
   TextBox* otherHolder() const;
   void keepFocus(Qt::FocusReason reason);
   QChar filtered(QChar character);
+  QString filtered(const QString& text);
   void press(QKeyEvent* event);
+  void release(QMouseEvent* event);
+  void pasteAsTyped(const QString& text);
 
   EnterKey enterKey_ = EnterKey::Stays;
+  Pasting pasting_ = Pasting::AsItIs;
   bool holdsFocus_ = false;    // GotFocus has come, and no LostFocus since
   bool isEntryClick_ = false;  // the click that brought the focus is not over
 };

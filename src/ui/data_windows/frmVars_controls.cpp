@@ -34,6 +34,7 @@ void VarsControls::makeControls(QWidget& window) {
   txtDataEntry->setFont(verdanaFont());
   txtDataEntry->setAlignment(Qt::AlignCenter);
   txtDataEntry->setAccessibleName(QStringLiteral("Value"));
+  txtDataEntry->setPasting(Pasting::AsTyped);
   MSFlexGridVars->setRowHeight(txtDataEntry->sizeHint().height());
 
   cmdDelete = makeButton(QStringLiteral("cmdDelete"), "Delete");

@@ -2,7 +2,11 @@
 #include <gtest/gtest.h>
 
 #include <QClipboard>
+#include <QContextMenuEvent>
+#include <QDropEvent>
 #include <QGuiApplication>
+#include <QMenu>
+#include <QMimeData>
 #include <QScrollBar>
 
 #include "ui/support/values_window_test.h"
@@ -140,11 +144,44 @@ TEST_F(EditingValues, DeleteAndTypingOverASelectionTakeCharactersAway) {
   EXPECT_EQ(model.X0[1], 0);
 }
 
-TEST_F(EditingValues, PastedTextIsStoredAsItsNumericPrefix) {
-  QGuiApplication::clipboard()->setText(QStringLiteral("2.5abc"));
+TEST_F(EditingValues, PastedTextPassesTheFilterOfTheKeys) {
+  QGuiApplication::clipboard()->setText(QStringLiteral(" 2,5\tabc1\n"));
   clickCell(1);
   press(Qt::Key_V, Qt::ControlModifier);
-  EXPECT_EQ(model.X0[1], 2.5);
+  EXPECT_EQ(entry().text(), QStringLiteral("251"));
+  EXPECT_EQ(cell(1), "251");
+  EXPECT_EQ(model.X0[1], 251);
+}
+
+TEST_F(EditingValues, PastedTextOfWhichNothingIsKeptLeavesTheValue) {
+  QGuiApplication::clipboard()->setText(QStringLiteral("abc"));
+  clickCell(1);
+  press(Qt::Key_V, Qt::ControlModifier);
+  EXPECT_EQ(entry().selectedText(), QStringLiteral("0.5"));
+  EXPECT_EQ(model.X0[1], 0.5);
+}
+
+TEST_F(EditingValues, TheMenusPasteFiltersToo) {
+  QGuiApplication::clipboard()->setText(QStringLiteral("x=7.5"));
+  clickCell(1);
+  QContextMenuEvent request(QContextMenuEvent::Keyboard, entry().rect().center(), QCursor::pos());
+  QApplication::sendEvent(&entry(), &request);
+  auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+  ASSERT_NE(menu, nullptr);
+  menu->findChild<QAction*>(QStringLiteral("edit-paste"))->trigger();
+  menu->close();
+  EXPECT_EQ(entry().text(), QStringLiteral("7.5"));
+  EXPECT_EQ(model.X0[1], 7.5);
+}
+
+TEST_F(EditingValues, DroppedTextIsFilteredToo) {
+  clickCell(1);
+  QMimeData text;
+  text.setText(QStringLiteral("(8)"));
+  QDropEvent drop(QPointF(entry().width() - 1, 1), Qt::CopyAction, &text, Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(&entry(), &drop);
+  EXPECT_EQ(entry().text(), QStringLiteral("0.58"));
+  EXPECT_EQ(model.X0[1], 0.58);
 }
 
 TEST_F(EditingValues, AProgramsChangeIsStoredWhileTheEditorIsVisible) {
