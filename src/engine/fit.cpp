@@ -121,6 +121,7 @@ FitOutcome fit(const Problem& problem, const FitOptions& options, const Statisti
     fitInto(problem, options, outcome);
   } catch (const RunTimeError& error) {
     endWithError(error.number(), outcome);
+    outcome.detail = error.detail();
   } catch (const std::bad_alloc&) {
     endWithError(ErrorNumber::OutOfMemory, outcome);
   } catch (const CalledOff&) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 #include "engine/fit_options.h"
 #include "model/fit.h"
 #include "model/problem.h"
@@ -22,6 +24,7 @@ struct FitOutcome {
   FitEnd end = FitEnd::Found;
   Long variable = 0;   // Singular, NoRoom: the variable
   Long ErrNumber = 0;  // the last run-time error that was met, also one after which the fit went on; 0 if none
+  std::string detail;  // Error: what is known of it beyond its number
   Fit fit;             // Found: the whole of it. Singular: Coef in the state that the solution has reached.
 };
 

@@ -83,7 +83,8 @@ std::string workFilePath(const Dimension& model) { return utf8Path(nativePath(mo
 
 void addValues(Dimension& model, Long v, FileSteps& steps) {
   if (model.AddCount[v] == 0) return;
-  if (model.AddCount[v] < 0) throw RunTimeError(ErrorNumber::SubscriptOutOfRange);
+  if (model.AddCount[v] < 0)
+    throw RunTimeError(ErrorNumber::SubscriptOutOfRange, {}, "a negative number of values to add");
   PerVariable<Long> newLast = model.LastPoint;
   newLast[v] = addLongs(newLast[v], model.AddCount[v]);
   Table4 table = relaidTable(model, newLast, steps);

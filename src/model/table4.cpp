@@ -1,7 +1,9 @@
 #include "model/table4.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <limits>
+#include <string>
 
 #include "model/grid_indices.h"
 #include "runtime/run_time_error.h"
@@ -13,6 +15,12 @@ namespace {
 // Positions are counted in a Long, as the number of grid points is.
 constexpr std::size_t kMostElements = std::numeric_limits<Long>::max();
 
+RunTimeError tooLarge(const PerVariable<Long>& last) {
+  std::string extents;
+  for (const Long bound : last) extents += (extents.empty() ? "" : " x ") + std::to_string(std::int64_t{bound} + 1);
+  return RunTimeError(ErrorNumber::OutOfMemory, {}, "for a table of " + extents + " numbers");
+}
+
 }  // namespace
 
 std::size_t tableSize(const PerVariable<Long>& last) {
@@ -20,7 +28,7 @@ std::size_t tableSize(const PerVariable<Long>& last) {
   for (const Long bound : last) {
     if (bound < 0) throw RunTimeError(ErrorNumber::SubscriptOutOfRange);
     const std::size_t extent = static_cast<std::size_t>(bound) + 1;
-    if (extent > kMostElements / size) throw RunTimeError(ErrorNumber::OutOfMemory);
+    if (extent > kMostElements / size) throw tooLarge(last);
     size *= extent;
   }
   return size;
@@ -31,7 +39,7 @@ void Table4::redim(const PerVariable<Long>& last) {
   try {
     elements_.assign(size, 0.0);
   } catch (const std::bad_alloc&) {
-    throw RunTimeError(ErrorNumber::OutOfMemory);
+    throw tooLarge(last);
   }
   last_ = last;
 }

@@ -2,12 +2,19 @@
 
 #include <iterator>
 #include <new>
+#include <string>
 
 #include "platform/memory.h"
 #include "runtime/checked_arithmetic.h"
 #include "runtime/run_time_error.h"
 
 namespace tavimor {
+
+namespace {
+
+std::string nameOf(const Problem& problem, Long v) { return "variable \"" + problem.VarName[v] + '"'; }
+
+}  // namespace
 
 std::vector<double>& valueList(Problem& problem, Long v) {
   switch (v) {
@@ -25,7 +32,8 @@ const std::vector<double>& valueList(const Problem& problem, Long v) {
 
 double& valueOf(Problem& problem, Long v, Long i) {
   std::vector<double>& list = valueList(problem, v);
-  if (i < 0 || i >= std::ssize(list)) throw RunTimeError(ErrorNumber::SubscriptOutOfRange);
+  if (i < 0 || i >= std::ssize(list))
+    throw RunTimeError(ErrorNumber::SubscriptOutOfRange, {}, nameOf(problem, v) + " has no value " + std::to_string(i));
   return list[i];
 }
 
@@ -34,7 +42,7 @@ double valueOf(const Problem& problem, Long v, Long i) { return valueOf(const_ca
 void ResizeVarValues(Problem& problem, Long v) {
   if (v < 0 || v >= kMaxVariables) return;
   const Long last = problem.LastPoint[v];
-  if (last < 0) throw RunTimeError(ErrorNumber::SubscriptOutOfRange);
+  if (last < 0) throw RunTimeError(ErrorNumber::SubscriptOutOfRange, {}, nameOf(problem, v) + " has no values");
   const std::size_t count = static_cast<std::size_t>(last) + 1;
   std::vector<double>& values = valueList(problem, v);
   try {
@@ -42,7 +50,7 @@ void ResizeVarValues(Problem& problem, Long v) {
     preferLargePages(values.data(), count * sizeof(double));  // before they are touched
     values.resize(count);
   } catch (const std::bad_alloc&) {
-    throw RunTimeError(ErrorNumber::OutOfMemory);
+    throw RunTimeError(ErrorNumber::OutOfMemory, {}, "for the values of " + nameOf(problem, v));
   }
 }
 

@@ -18,7 +18,8 @@ std::string reasonForNoFit(const Problem& problem, const FitOutcome& outcome) {
   if (outcome.end == FitEnd::Singular) return kSingularMatrix;
   if (outcome.end == FitEnd::NoRoom) return "no fit: " + tooHighDegree(problem, outcome.variable);
   if (outcome.end == FitEnd::CalledOff) return "no fit: called off";
-  return std::string("no fit: ") + description(static_cast<ErrorNumber>(outcome.ErrNumber));
+  const std::string reason = std::string("no fit: ") + description(static_cast<ErrorNumber>(outcome.ErrNumber));
+  return outcome.detail.empty() ? reason : reason + " (" + outcome.detail + ')';
 }
 
 }  // namespace tavimor

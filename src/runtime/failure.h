@@ -12,17 +12,25 @@ class Failure : public std::exception {
   /// The file or the printer that it is about; empty where there is none.
   const std::string& path() const { return path_; }
 
+  /// What the user can know of it beyond what() and the path: "variable "x" has a single value". Empty where there is
+  /// nothing.
+  const std::string& detail() const { return detail_; }
+
   /// What kind of failure it is, or where in the file: "Run-time error '61'", "line 3". what() says what happened.
   virtual std::string heading() const = 0;
 
-  /// Both in one line, the form in which every front end reports it: "Run-time error '61': Disk full".
-  std::string report() const { return heading() + ": " + what(); }
+  /// All but the path in one line, the form in which every front end reports it: "Run-time error '61': Disk full", with
+  /// the detail behind it in parentheses.
+  std::string report() const {
+    const std::string text = heading() + ": " + what();
+    return detail_.empty() ? text : text + " (" + detail_ + ')';
+  }
 
  protected:
-  explicit Failure(std::string path) : path_(std::move(path)) {}
+  explicit Failure(std::string path, std::string detail = {}) : path_(std::move(path)), detail_(std::move(detail)) {}
 
  private:
-  std::string path_;
+  std::string path_, detail_;
 };
 
 }  // namespace tavimor

@@ -40,10 +40,8 @@ const char* description(ErrorNumber number) {
   return "Application-defined or object-defined error";
 }
 
-RunTimeError::RunTimeError(ErrorNumber number, std::string path, const std::string& detail)
-    : Failure(std::move(path)), number_(number), text_(description(number)) {
-  if (!detail.empty()) text_ += " (" + detail + ')';
-}
+RunTimeError::RunTimeError(ErrorNumber number, std::string path, std::string detail)
+    : Failure(std::move(path), std::move(detail)), number_(number) {}
 
 std::string RunTimeError::heading() const {
   return "Run-time error '" + std::to_string(static_cast<int>(number_)) + "'";

@@ -32,18 +32,17 @@ const char* description(ErrorNumber number);
 /// A run-time error: its number, its description and, for an error of a file or a printer, its path or name.
 class RunTimeError : public Failure {
  public:
-  /// `detail` is what a user can know beyond the description, which it follows in parentheses.
-  explicit RunTimeError(ErrorNumber number, std::string path = {}, const std::string& detail = {});
+  /// `detail` is what a user can know beyond the description.
+  explicit RunTimeError(ErrorNumber number, std::string path = {}, std::string detail = {});
 
   ErrorNumber number() const { return number_; }
-  const char* what() const noexcept override { return text_.c_str(); }
+  const char* what() const noexcept override { return description(number_); }
 
   /// "Run-time error 'N'"
   std::string heading() const override;
 
  private:
   ErrorNumber number_;
-  std::string text_;
 };
 
 /// The run-time error for the value that `errno` had after a failed operation on `path`.

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <stdexcept>
+
 #include "model/value_lists.h"
 #include "runtime/run_time_error.h"
 
@@ -18,14 +20,13 @@ class CaptureSpecsTest : public testing::Test {
     model.X1 = {7, 7, 7};
   }
 
-  ErrorNumber errorOfCapture() {
+  RunTimeError errorOfCapture() {
     try {
       CaptureSpecs(model, fields);
     } catch (const RunTimeError& error) {
-      return error.number();
+      return error;
     }
-    ADD_FAILURE() << "no run-time error";
-    return {};
+    throw std::logic_error("no run-time error");
   }
 
   Problem model;
@@ -109,12 +110,12 @@ TEST_F(CaptureSpecsTest, CountsTheGridPointsOfTheDeclaredVariables) {
 
 TEST_F(CaptureSpecsTest, MoreGridPointsThanALongHoldsOverflow) {
   fields[0].txtPoints = fields[1].txtPoints = "46341";  // 46340 squared is the last that fits
-  EXPECT_EQ(errorOfCapture(), ErrorNumber::Overflow);
+  EXPECT_EQ(errorOfCapture().number(), ErrorNumber::Overflow);
 }
 
 TEST_F(CaptureSpecsTest, ADegreeThatNoLongHoldsOverflows) {
   fields[0].txtTerms = "2147483648";
-  EXPECT_EQ(errorOfCapture(), ErrorNumber::Overflow);
+  EXPECT_EQ(errorOfCapture().number(), ErrorNumber::Overflow);
 }
 
 TEST_F(CaptureSpecsTest, EveryVariableGetsAStepSpacedOrNot) {
@@ -125,12 +126,27 @@ TEST_F(CaptureSpecsTest, EveryVariableGetsAStepSpacedOrNot) {
 
 TEST_F(CaptureSpecsTest, ASingleValueHasNoStep) {
   fields[0].txtPoints = "1";
-  EXPECT_EQ(errorOfCapture(), ErrorNumber::DivisionByZero);
+  EXPECT_EQ(errorOfCapture().number(), ErrorNumber::DivisionByZero);
 }
 
 TEST_F(CaptureSpecsTest, ASingleValueOfASecondVariableHasNoStepEither) {
   fields[1].txtPoints = "1";
-  EXPECT_EQ(errorOfCapture(), ErrorNumber::DivisionByZero);
+  EXPECT_EQ(errorOfCapture().number(), ErrorNumber::DivisionByZero);
+}
+
+TEST_F(CaptureSpecsTest, AnErrorSaysWhatItIsAbout) {
+  model.VarName = {"speed", "depth", "", ""};
+  const AllSpecFields good = fields;
+  fields[1].txtPoints = "1";
+  EXPECT_EQ(errorOfCapture().detail(), "variable \"depth\" has a single value");
+  fields = good;
+  fields[0].txtTerms = "1E10";
+  EXPECT_EQ(errorOfCapture().detail(), "the degree of variable \"speed\" is out of range");
+  fields = good;
+  fields[1].txtPoints = "-1E10";
+  EXPECT_EQ(errorOfCapture().detail(), "the number of values of variable \"depth\" is out of range");
+  fields[0].txtPoints = fields[1].txtPoints = "46341";
+  EXPECT_EQ(errorOfCapture().detail(), "the grid has more points than can be counted");
 }
 
 TEST_F(CaptureSpecsTest, AStepBeyondTheRangeOverflows) {

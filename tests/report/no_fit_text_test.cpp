@@ -24,5 +24,13 @@ TEST(ReasonForNoFit, IsOtherwiseTheRunTimeError) {
   EXPECT_EQ(reasonFor(model), "no fit: Subscript out of range");
 }
 
+TEST(ReasonForNoFit, SaysWhatIsKnownBeyondTheRunTimeError) {
+  FitOutcome outcome;
+  outcome.end = FitEnd::Error;
+  outcome.ErrNumber = 7;
+  outcome.detail = "for a table of 9 x 1 x 1 x 1 numbers";
+  EXPECT_EQ(reasonForNoFit({}, outcome), "no fit: Out of memory (for a table of 9 x 1 x 1 x 1 numbers)");
+}
+
 }  // namespace
 }  // namespace tavimor

@@ -29,6 +29,12 @@ TEST(RunTimeError, ReportsItsNumberAndDescription) {
   EXPECT_EQ(report(482), "Run-time error '482': Printer error");
 }
 
+TEST(RunTimeError, ReportsItsDetailInParentheses) {
+  const RunTimeError error(ErrorNumber::DivisionByZero, {}, "variable \"x\" has a single value");
+  EXPECT_STREQ(error.what(), "Division by zero");
+  EXPECT_EQ(error.report(), "Run-time error '11': Division by zero (variable \"x\" has a single value)");
+}
+
 TEST(RunTimeError, AScriptReportsUnderItsOwnNumber) {
   EXPECT_EQ(static_cast<unsigned>(ErrorNumber::ScriptReported), 0x80020101u);
 }

@@ -17,10 +17,11 @@ namespace {
 using SaveProblem = std::function<void(const std::string&)>;
 
 QString failureText(const Failure& failure) {
-  const QString text =
+  QString text =
       QStringLiteral("%1:\n\n%2").arg(QString::fromStdString(failure.heading()), QString::fromUtf8(failure.what()));
-  return failure.path().empty() ? text
-                                : text + QStringLiteral("\n") + QString::fromStdString(withEscapes(failure.path()));
+  for (const std::string& line : {failure.path(), failure.detail()})
+    if (!line.empty()) text += QStringLiteral("\n") + QString::fromStdString(withEscapes(line));
+  return text;
 }
 
 enum class Choice { SaveCopy, End, Dismiss };

@@ -79,6 +79,13 @@ TEST_F(Dispatcher, ReportsThePathOfAFile) {
   EXPECT_EQ(text, QStringLiteral("Run-time error '61':\n\nDisk full\n/data/ozone"));
 }
 
+TEST_F(Dispatcher, ReportsWhatIsKnownBeyondTheDescriptionBelowIt) {
+  QString text;
+  dialogs.expectAndPress(QStringLiteral("End"), &text);
+  clickAndFail([] { throw RunTimeError(ErrorNumber::DivisionByZero, {}, "variable \"x\" has a single value"); });
+  EXPECT_EQ(text, QStringLiteral("Run-time error '11':\n\nDivision by zero\nvariable \"x\" has a single value"));
+}
+
 TEST_F(Dispatcher, ReportsThatMemoryHasRunOut) {
   QString text;
   dialogs.expectAndPress(QStringLiteral("End"), &text);
