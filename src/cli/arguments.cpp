@@ -7,17 +7,20 @@
 #include "cli/import_arguments.h"
 #include "runtime/numeral.h"
 #include "runtime/text.h"
+#include "runtime/usage_text.h"
 
 namespace tavimor {
 
 namespace {
+
+constexpr char kProgram[] = "tavimor-cli";
 
 struct Command {
   const char* name;
   const char* does;
   const char* example;
   const char* input = "PROBLEM";
-  const char* inputIs = "the specification file; its values stand in PROBLEM.dat";
+  const char* inputIs = kProblemIs;
 };
 
 constexpr Command kCommands[] = {
@@ -26,7 +29,7 @@ constexpr Command kCommands[] = {
     {"eval", "Print the estimate at a point, or at each point on standard input", "eval sound-speed 10 35 1000"},
     {"analyse", "Tell how many digits of a fit are right, and give the right ones", "analyse sound-speed"},
     {"degrees", "Tell how well each combination of degrees would fit", "degrees silicon-index --max 5,9"},
-    {"report", "Print the report: specifications, results and data", "report ozone-fitted"},
+    {"report", "Print the report: specifications, stored results, data; it does not fit", "report ozone-fitted"},
     {"copy", "Open the problem and save it under another name", "copy ozone ozone-2"},
     {"import", "Make a problem of a table", "import table.csv gauge --degree 2,1", "TABLE",
      "a file of numbers in columns, or - for standard input"},
@@ -57,7 +60,8 @@ void addCommands(CLI::App& app, Arguments& arguments) {
     examples += "\n  " + exampleLine(command);
   }
   app.footer(examples +
-             "\nExit status: 0 done, 1 an error, 2 wrong usage, 3 no fit (a singular matrix, or too high a degree).");
+             "\nExit status: 0 done, 1 an error, 2 wrong usage, 3 no fit (a singular matrix, too "
+             "high a degree, or results that are not finite).");
   app.get_subcommand("fit")
       ->add_option("-o,--output", arguments.output, "save the fitted problem as OUT and OUT.dat")
       ->type_name("OUT")
@@ -104,34 +108,42 @@ void protectNegativeNumbers(std::vector<std::string>& words) {
 }
 
 // The parser names the option first.
-std::string optionWithoutValue(const std::string& complaint) {
-  const std::string option = complaint.substr(0, complaint.find_first_of(": "));
-  return option + (option == "--output" ? ": a file name is needed" : ": a value is needed");
+std::string mismatch(const CLI::App& command, const std::string& message) {
+  const std::string name = message.substr(0, message.find_first_of(": "));
+  const CLI::Option* option = command.get_option_no_throw(name);
+  if (option != nullptr && option->count() > 1) return name + ": given more than once";
+  return name + (name == "--output" ? ": a file name is needed" : ": a value is needed");
 }
 
 std::string complaint(const CLI::App& app, const CLI::ParseError& error) {
   std::vector<std::string> unexpected = app.remaining(true);
   std::erase(unexpected, "--");
-  const bool hasCommand = !app.get_subcommands().empty();
-  if (!unexpected.empty())
-    return (hasCommand ? "unexpected argument \"" : "no such command: \"") + withEscapes(unexpected[0]) + '"';
-  if (dynamic_cast<const CLI::ArgumentMismatch*>(&error) != nullptr) return optionWithoutValue(error.what());
-  return hasCommand ? error.what() : "a command is needed";
+  const auto commands = app.get_subcommands();
+  if (commands.empty() && unexpected.empty()) return "a command is needed";
+  if (commands.empty() && !unexpected[0].starts_with('-'))
+    return "no such command: \"" + withEscapes(unexpected[0]) + '"';
+  if (!unexpected.empty()) return unexpectedArgument(unexpected[0]);
+  if (dynamic_cast<const CLI::ArgumentMismatch*>(&error) != nullptr) return mismatch(*commands.front(), error.what());
+  return error.what();
+}
+
+std::string chosenCommand(const CLI::App& app) {
+  const auto commands = app.get_subcommands();
+  return commands.empty() ? std::string() : commands.front()->get_name();
 }
 
 std::string helpOf(const CLI::App& app) {
   const auto commands = app.get_subcommands();
-  return commands.empty() ? app.help() : commands.front()->help("tavimor-cli");
+  return commands.empty() ? app.help() : commands.front()->help(kProgram);
 }
 
 }  // namespace
 
 ParsedArguments parseArguments(std::vector<std::string> words) {
   ParsedArguments parsed;
-  CLI::App app("Fits the full tensor-product polynomial to a function tabulated on a grid, by least squares.",
-               "tavimor-cli");
-  app.set_version_flag("--version", "tavimor-cli " TAVIMOR_VERSION, "Print the version and exit");
-  app.set_help_flag("-h,--help", "Print this help and exit");
+  CLI::App app(kPurpose, kProgram);
+  app.set_version_flag("--version", "tavimor-cli " TAVIMOR_VERSION, kVersionIs);
+  app.set_help_flag("-h,--help", kHelpIs);
   app.get_formatter()->label("SUBCOMMAND", "COMMAND");
   app.get_formatter()->label("Positionals", "Arguments");
   app.require_subcommand(1);
@@ -142,7 +154,7 @@ ParsedArguments parseArguments(std::vector<std::string> words) {
   std::reverse(words.begin(), words.end());  // the order in which the parser takes them
   try {
     app.parse(words);
-    parsed.arguments.command = app.get_subcommands().front()->get_name();
+    parsed.arguments.command = chosenCommand(app);
   } catch (const CLI::CallForVersion& version) {
     parsed.exitCode = ExitCode::Success;
     parsed.message = version.what() + std::string("\n");
@@ -151,11 +163,13 @@ ParsedArguments parseArguments(std::vector<std::string> words) {
     parsed.message = helpOf(app);
   } catch (const CLI::ParseError& error) {
     parsed.exitCode = ExitCode::Usage;
-    parsed.message = "tavimor-cli: " + complaint(app, error) + '\n' + helpOf(app);
+    parsed.message = usageLineOf(chosenCommand(app), complaint(app, error));
   }
   return parsed;
 }
 
-std::string helpOfCommand(const std::string& command) { return parseArguments({command, "--help"}).message; }
+std::string usageLineOf(const std::string& command, const std::string& complaint) {
+  return usageLine(kProgram, complaint, command.empty() ? kProgram : kProgram + (' ' + command));
+}
 
 }  // namespace tavimor

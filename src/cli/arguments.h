@@ -22,7 +22,7 @@ struct Arguments {
 };
 
 /// Either arguments to run with or, where there is an exit code, the text to leave the user with: help or version for
-/// standard output, or what is wrong with the words and the help that goes with them for standard error.
+/// standard output, or the line on what is wrong with the words for standard error.
 struct ParsedArguments {
   Arguments arguments;
   std::optional<ExitCode> exitCode;
@@ -31,6 +31,7 @@ struct ParsedArguments {
 
 ParsedArguments parseArguments(std::vector<std::string> words);
 
-std::string helpOfCommand(const std::string& command);
+/// The line for words that go wrong with a command: "tavimor-cli: COMPLAINT; see tavimor-cli fit --help", with an LF.
+std::string usageLineOf(const std::string& command, const std::string& complaint);
 
 }  // namespace tavimor

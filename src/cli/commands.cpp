@@ -12,9 +12,14 @@ namespace tavimor {
 ExitCode showCommand(const std::string& problem) {
   const OpenedProblem opened = openShowingProgress(problem);
   for (Long k = 0; k <= opened.problem.LastVar; ++k) variableLines(opened.problem, k, printLine);
-  if (opened.fit.FitDone) ShowResults(opened.problem, opened.fit, printLine);
+  if (opened.fit.FitDone) {
+    ShowResults(opened.problem, opened.fit, printLine);
+  } else {
+    printLine("");
+    printLine("NO FIT IS STORED.");
+  }
   finishOutput();
-  return ExitCode::Success;
+  return endOfResults(problem, opened.fit);
 }
 
 ExitCode reportCommand(const std::string& problem) {
@@ -27,7 +32,7 @@ ExitCode reportCommand(const std::string& problem) {
     throw;
   }
   finishOutput();
-  return ExitCode::Success;
+  return endOfResults(problem, opened.fit);
 }
 
 ExitCode copyCommand(const std::string& problem, const std::string& output) {

@@ -1,3 +1,5 @@
+#include <algorithm>
+#include <cmath>
 #include <cstdio>
 #include <functional>
 #include <optional>
@@ -34,32 +36,35 @@ std::string expectedPoint(const Problem& problem) {
 }
 
 // The text in quotes, fit for one line of a message.
-std::string quoted(std::string_view text) {
+std::string inQuotes(std::string_view text) {
   std::string excerpt = utf8FromBytes(trimmed(text.substr(0, kExcerptBytes)));
   for (char& c : excerpt)
     if (static_cast<unsigned char>(c) < ' ' || c == '\x7F') c = '?';
   return '"' + excerpt + '"';
 }
 
+bool isBlank(std::string_view line) { return line.find_first_not_of(" \t\r") == std::string_view::npos; }
+
+// The words together are read as a line of standard input is.
 PerVariable<double> pointFromArguments(const Problem& problem, const std::vector<std::string>& values) {
-  const std::string expected = "expected " + expectedPoint(problem) + ", found ";
-  if (std::ssize(values) != problem.LastVar + 1) throw UsageError(expected + std::to_string(values.size()));
-  PerVariable<double> point{};
-  for (Long v = 0; v <= problem.LastVar; ++v) {
-    const auto value = parsePoint(values[v], 1);
-    if (!value) throw UsageError(expected + quoted(values[v]));
-    point[v] = (*value)[0];
-  }
-  return point;
+  std::string line = values[0];
+  for (std::size_t n = 1; n < values.size(); ++n) line += ' ' + values[n];
+  const auto point = parsePoint(line, problem.LastVar + 1);
+  if (!point || std::any_of(values.begin(), values.end(), isBlank))
+    throw UsageError("expected " + expectedPoint(problem) + ", found " + inQuotes(line));
+  return *point;
+}
+
+// Whether the estimate is a finite number.
+bool printEstimate(const OpenedProblem& opened, const PerVariable<double>& point) {
+  const Problem& problem = opened.problem;
+  const double estimate = valueAt(opened.fit.Coef, problem.TrigFlag, offsetsFrom(problem.Centre, point));
+  printLine(numberText(estimate));
+  return std::isfinite(estimate);
 }
 
 // Prints what is asked for at a point.
 using PrintPoint = std::function<void(const PerVariable<double>& point)>;
-
-void printEstimate(const OpenedProblem& opened, const PerVariable<double>& point) {
-  const Problem& problem = opened.problem;
-  printLine(numberText(valueAt(opened.fit.Coef, problem.TrigFlag, offsetsFrom(problem.Centre, point))));
-}
 
 void evaluateInput(const Problem& problem, const PrintPoint& print) {
   if (standardInputIsTerminal()) std::fprintf(stderr, "Type points, one a line: %s.\n", expectedPoint(problem).c_str());
@@ -68,6 +73,7 @@ void evaluateInput(const Problem& problem, const PrintPoint& print) {
   long number = 0;
   while (const auto line = lines.next()) {
     ++number;
+    if (isBlank(*line)) continue;
     const bool isTooLong = line->size() >= InputLines::kLongestLine;
     const auto point = isTooLong ? std::nullopt : parsePoint(*line, problem.LastVar + 1);
     if (!point) {
@@ -75,7 +81,7 @@ void evaluateInput(const Problem& problem, const PrintPoint& print) {
       std::string_view found = *line;
       if (found.ends_with('\r')) found.remove_suffix(1);
       throw BadFile("standard input", number, expectedPoint(problem),
-                    isTooLong ? "a line that is too long" : quoted(found));
+                    isTooLong ? "a line that is too long" : inQuotes(found));
     }
     print(*point);
   }
@@ -89,7 +95,8 @@ ExitCode evalCommand(const std::string& problem, const std::vector<std::string>&
   const double level = intervalLevel(options);
   PerVariable<double> point{};
   if (!values.empty()) point = pointFromArguments(opened.problem, values);
-  PrintPoint print = [&](const PerVariable<double>& at) { printEstimate(opened, at); };
+  bool allFinite = true;
+  PrintPoint print = [&](const PerVariable<double>& at) { allFinite = printEstimate(opened, at) && allFinite; };
   std::optional<EstimateIntervals> intervals;
   if (options.interval) {
     intervals.emplace(opened, level);
@@ -106,7 +113,9 @@ ExitCode evalCommand(const std::string& problem, const std::vector<std::string>&
   else
     print(point);
   finishOutput();
-  return ExitCode::Success;
+  if (allFinite) return ExitCode::Success;
+  complain(problem, "an estimate is not a finite number");
+  return ExitCode::NoFit;
 }
 
 }  // namespace tavimor

@@ -52,6 +52,7 @@ ExitCode fitCommand(const std::string& problem, const std::string& output, const
   if (options.precise) return fitPrecisely(opened, problem, output);
   const FitOutcome outcome = fitShowingProgress(opened);
   printOutcome(opened, outcome, problem);
+  if (endOfResults(problem, opened.fit) == ExitCode::NoFit) return ExitCode::NoFit;
   if (outcome.end == FitEnd::Found && !output.empty()) saveShowingProgress(opened, output);
   if (!options.noCheck) checkFit(opened, outcome, problem);
   return outcome.end == FitEnd::Found ? ExitCode::Success : ExitCode::NoFit;

@@ -27,4 +27,10 @@ bool provideFit(OpenedProblem& opened, const std::string& path) {
   return false;
 }
 
+ExitCode endOfResults(const std::string& problem, const Fit& fit) {
+  if (!fit.FitDone || hasFiniteResults(fit)) return ExitCode::Success;
+  complain(problem, "not all results are finite numbers");
+  return ExitCode::NoFit;
+}
+
 }  // namespace tavimor

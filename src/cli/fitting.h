@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "cli/commands.h"
 #include "engine/fit.h"
 #include "formats/open_problem.h"
 
@@ -14,5 +15,9 @@ FitOutcome fitShowingProgress(OpenedProblem& opened);
 /// Fits the problem of that path unless it has a stored fit. False where there is none, which the user has been told
 /// then.
 bool provideFit(OpenedProblem& opened, const std::string& path);
+
+/// How a command ends that has printed the results of a problem: with NoFit and a line on standard error where one of
+/// them is no finite number, else with Success.
+ExitCode endOfResults(const std::string& problem, const Fit& fit);
 
 }  // namespace tavimor

@@ -33,12 +33,26 @@ ExitCode fail(const std::string& path, const std::string& reason) {
   return ExitCode::Error;
 }
 
+// Help, version or what is wrong with the words.
+ExitCode answer(const ParsedArguments& parsed) {
+  if (*parsed.exitCode != ExitCode::Success) {
+    std::fputs(parsed.message.c_str(), stderr);
+    return *parsed.exitCode;
+  }
+  try {
+    printText(parsed.message);
+    finishOutput();
+    return ExitCode::Success;
+  } catch (const Failure& failure) {
+    return fail(failure.path(), failure.report());
+  }
+}
+
 ExitCode runReporting(const Arguments& arguments) {
   try {
     return run(arguments);
   } catch (const UsageError& error) {
-    complain(arguments.problem, error.what());
-    std::fputs(helpOfCommand(arguments.command).c_str(), stderr);
+    std::fputs(usageLineOf(arguments.command, arguments.problem + ": " + error.what()).c_str(), stderr);
     return ExitCode::Usage;
   } catch (const Failure& failure) {
     return fail(failure.path().empty() ? arguments.problem : failure.path(), failure.report());
@@ -49,12 +63,7 @@ ExitCode runReporting(const Arguments& arguments) {
 
 ExitCode runWords(const std::vector<std::string>& words) {
   const ParsedArguments parsed = parseArguments(words);
-  if (parsed.exitCode) {
-    std::FILE* stream = *parsed.exitCode == ExitCode::Success ? stdout : stderr;
-    std::fputs(parsed.message.c_str(), stream);
-    return *parsed.exitCode;
-  }
-  return runReporting(parsed.arguments);
+  return parsed.exitCode ? answer(parsed) : runReporting(parsed.arguments);
 }
 
 }  // namespace

@@ -1,29 +1,16 @@
 #include "cli/output.h"
 
-#include <cerrno>
 #include <cstdio>
 
-#include "runtime/run_time_error.h"
 #include "runtime/text.h"
 
 namespace tavimor {
 
-namespace {
-
-void require(bool written) {
-  if (!written) throw fileError(errno, "standard output");
-}
-
-}  // namespace
-
-void printText(const std::string& text) { require(std::fwrite(text.data(), 1, text.size(), stdout) == text.size()); }
-
 void printLine(const std::string& line) {
-  printText(line);
-  require(std::fputc('\n', stdout) != EOF);
+  const std::size_t length = line.find_last_not_of(' ') + 1;  // 0 for a line of blanks
+  printText(std::string_view(line).substr(0, length));
+  printText("\n");
 }
-
-void finishOutput() { require(std::fflush(stdout) == 0); }
 
 void complain(const std::string& path, const std::string& reason) {
   const std::string name = path.empty() ? "\"\"" : withEscapes(path);

@@ -2,16 +2,13 @@
 
 #include <string>
 
+#include "runtime/standard_output.h"
+
 namespace tavimor {
 
-/// Writes a line to standard output. Errors: a RunTimeError where the system refuses it.
+/// Writes a line to standard output, without the blanks at its end: a terminal would wrap the lines of a listing, which
+/// are filled up to one length. Errors: as printText.
 void printLine(const std::string& line);
-
-/// The same for a text that ends its lines itself.
-void printText(const std::string& text);
-
-/// Hands everything printed to the system. Errors: as printLine.
-void finishOutput();
 
 /// Writes "tavimor-cli: PATH: reason" to standard error.
 void complain(const std::string& path, const std::string& reason);

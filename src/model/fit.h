@@ -16,4 +16,7 @@ struct Fit : Statistics {
   Table4 FitGrid;  // the fitted values, shaped like F
 };
 
+/// Whether the figures and the coefficients are finite numbers, none of them an infinity or a NaN.
+bool hasFiniteResults(const Fit& fit);
+
 }  // namespace tavimor

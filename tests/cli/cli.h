@@ -24,6 +24,12 @@ inline std::string text(const std::vector<std::string>& lines) {
   return joined;
 }
 
+/// The lines as the program prints them: without the blanks at their ends, each with an LF.
+inline std::string printed(std::vector<std::string> lines) {
+  for (std::string& line : lines) line.erase(line.find_last_not_of(' ') + 1);
+  return text(lines);
+}
+
 /// Lines as a problem file has them, each with CR LF.
 inline std::string fileText(std::initializer_list<std::string> lines) {
   std::string joined;
@@ -34,6 +40,19 @@ inline std::string fileText(std::initializer_list<std::string> lines) {
 /// Tests of commands, with problems of their own.
 class CommandTest : public FolderTest {
  protected:
+  /// Runs the program with a standard output that has no room.
+  Outcome runOnFullDevice(const std::vector<std::string>& arguments, const std::string& input = {}) {
+    Pipe in, err;
+    if (write(in.writing.number(), input.data(), input.size()) < 0) ADD_FAILURE();
+    in.writing.close();
+    const Descriptor full(open("/dev/full", O_WRONLY | O_CLOEXEC));
+    Process process(in.reading.number(), full.number(), err.writing.number(),
+                    [&] { return execute(TAVIMOR_CLI, arguments); });
+    err.writing.close();
+    const int exitCode = process.wait();
+    return {exitCode, "", readAll(err.reading)};
+  }
+
   /// Writes the pair and returns its path.
   std::string writePair(const std::string& name, const std::string& specification, const std::string& values) {
     writeBytes(folder / name, specification);
@@ -51,6 +70,18 @@ class CommandTest : public FolderTest {
   std::string singular() {
     return writePair("singular", fileText({" 0 ", R"("x",1,1,0,#TRUE#,0,1)", "#FALSE#"}),
                      fileText({" 0 ", " 1 ", "#FALSE#", " 1 ", " 1 ", " 5 ", " 6 "}));
+  }
+
+  /// One variable with a single value, which has no step.
+  std::string singleValue() {
+    return writePair("single", fileText({" 0 ", R"("x",1,1,0,#TRUE#,0,0)", "#FALSE#"}),
+                     fileText({" 0 ", " 0 ", "#FALSE#", " 5 "}));
+  }
+
+  /// One variable with a stored fit whose coefficient of x is a NaN.
+  std::string notFinite() {
+    return writePair("not-finite", fileText({" 0 ", R"("x",0,1,0,#TRUE#,0,1)", "#TRUE#", " 100 ", " NAN "}),
+                     fileText({" 0 ", " 1 ", "#FALSE#", " 0 ", " 1 ", " 5 ", " 6 ", "2,1,0,0,5.5,5.5"}));
   }
 
   /// One variable with two values and degree 2.

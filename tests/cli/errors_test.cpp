@@ -20,18 +20,8 @@ class Errors : public test::CommandTest {
     EXPECT_EQ(outcome.out, "");
     EXPECT_EQ(outcome.err, "tavimor-cli: " + line + "\n");
   }
-
-  Outcome runOnFullDevice(const std::vector<std::string>& arguments, const std::string& input = {}) {
-    test::Pipe in, err;
-    if (write(in.writing.number(), input.data(), input.size()) < 0) ADD_FAILURE();
-    in.writing.close();
-    const test::Descriptor full(open("/dev/full", O_WRONLY | O_CLOEXEC));
-    test::Process process(in.reading.number(), full.number(), err.writing.number(),
-                          [&] { return test::execute(TAVIMOR_CLI, arguments); });
-    err.writing.close();
-    const int exitCode = process.wait();
-    return {exitCode, "", test::readAll(err.reading)};
-  }
+};
+}
 };
 
 TEST_F(Errors, AMissingProblem) {
@@ -121,6 +111,14 @@ TEST_F(Errors, AFullDevice) {
   EXPECT_EQ(runOnFullDevice({"eval", examplePath("ozone"), "1"}).err, full);
   EXPECT_EQ(runOnFullDevice({"eval", examplePath("ozone")}, "1\n2\n").err, full);
   EXPECT_EQ(runOnFullDevice({"fit", singular()}).exitCode, 1);
+}
+
+TEST_F(Errors, HelpAndVersionOnAFullDevice) {
+  for (const std::vector<std::string>& words : {std::vector<std::string>{"--help"}, {"--version"}, {"fit", "--help"}}) {
+    const Outcome outcome = runOnFullDevice(words);
+    EXPECT_EQ(outcome.exitCode, 1);
+    EXPECT_EQ(outcome.err, "tavimor-cli: standard output: Run-time error '61': Disk full\n");
+  }
 }
 
 TEST_F(Errors, AListingThatCannotBePrintedSavesNothing) {

@@ -39,6 +39,18 @@ TEST_F(EvalInput, TakesLinesThatEndInCrLf) { EXPECT_EQ(evalLine("0\r\n1\r\n").ou
 
 TEST_F(EvalInput, TheLastLineNeedsNoEnd) { EXPECT_EQ(evalLine("0\n1").out, "3\n5\n"); }
 
+TEST_F(EvalInput, SkipsBlankLinesAndCountsThem) {
+  EXPECT_EQ(evalLine("\n0\n \t\r\n1\n\n").out, "3\n5\n");
+  EXPECT_EQ(evalLine("\n\nx\n").err, "tavimor-cli: standard input: line 3: expected one number, for x, found \"x\"\n");
+}
+
+TEST_F(EvalInput, OneEstimateThatIsNotFiniteIsToldAtTheEnd) {
+  const Outcome outcome = evalLine("0\nNAN\n1\n");
+  EXPECT_EQ(outcome.exitCode, 3);
+  EXPECT_EQ(outcome.out, "3\nNAN\n5\n");
+  EXPECT_EQ(outcome.err, "tavimor-cli: " + (folder / "line") + ": an estimate is not a finite number\n");
+}
+
 TEST_F(EvalInput, NoLineGivesNoEstimate) {
   const Outcome outcome = evalLine("");
   EXPECT_EQ(outcome.out, "");
@@ -52,7 +64,6 @@ struct BadLine {
 
 TEST_F(EvalInput, ALineThatIsNoPointIsAnErrorWithItsNumber) {
   for (const BadLine& bad : {BadLine{"abc", "\"abc\""},
-                             {"", "\"\""},
                              {"1 2 3", "\"1 2 3\""},
                              {"1", "\"1\""},
                              {"1,,2", "\"1,,2\""},

@@ -1,12 +1,16 @@
 #include <CLI/CLI.hpp>
 #include <QTimer>
 #include <algorithm>
+#include <cstdio>
 #include <optional>
 #include <utility>
 #include <vector>
 
 #include "platform/end_request.h"
 #include "platform/held_signals.h"
+#include "runtime/failure.h"
+#include "runtime/standard_output.h"
+#include "runtime/usage_text.h"
 #include "ui/controls/application.h"
 #include "ui/controls/polite_end.h"
 #include "ui/main_window/frmTavimor.h"
@@ -18,24 +22,45 @@ namespace {
 
 using namespace tavimor;
 
-constexpr int kWrongUsage = 2;  // as of tavimor-cli
+constexpr char kProgram[] = "tavimor";
+constexpr int kCannotPrint = 1, kWrongUsage = 2;  // as of tavimor-cli
 
 struct Arguments {
   std::string problem;
   std::optional<int> exitCode;  // the command line asks for text only, or is wrong
 };
 
+// Prints a text and gives the exit code that goes with it.
+int answer(const std::string& text) {
+  try {
+    printText(text);
+    finishOutput();
+    return 0;
+  } catch (const Failure& failure) {
+    std::fprintf(stderr, "%s: %s: %s\n", kProgram, failure.path().c_str(), failure.report().c_str());
+    return kCannotPrint;
+  }
+}
+
 Arguments parse(std::vector<std::string> words) {
-  CLI::App app("Fits the full tensor-product polynomial to a function tabulated on a grid, by least squares.",
-               "tavimor");
-  app.set_version_flag("--version", "tavimor " TAVIMOR_VERSION);
+  CLI::App app(kPurpose, kProgram);
+  app.set_version_flag("--version", "tavimor " TAVIMOR_VERSION, kVersionIs);
+  app.set_help_flag("-h,--help", kHelpIs);
+  app.get_formatter()->label("Positionals", "Arguments");
   Arguments arguments;
-  app.add_option("PROBLEM", arguments.problem, "the problem to open; its values stand in PROBLEM.dat");
+  app.add_option("PROBLEM", arguments.problem, kProblemIs)->option_text(" ");
   try {
     std::reverse(words.begin(), words.end());  // as the parser wants them
     app.parse(words);
+  } catch (const CLI::CallForVersion& version) {
+    arguments.exitCode = answer(version.what() + std::string("\n"));
+  } catch (const CLI::CallForHelp&) {
+    arguments.exitCode = answer(app.help());
   } catch (const CLI::ParseError& error) {
-    arguments.exitCode = app.exit(error) == 0 ? 0 : kWrongUsage;
+    const auto unexpected = app.remaining();
+    const std::string complaint = unexpected.empty() ? error.what() : unexpectedArgument(unexpected[0]);
+    std::fputs(usageLine(kProgram, complaint, kProgram).c_str(), stderr);
+    arguments.exitCode = kWrongUsage;
   }
   return arguments;
 }
