@@ -22,6 +22,14 @@ while read -r problem; do
   cmp "$problem" "$examples/${problem#"$source_folder/examples/"}" || fail "an example is not what it was"
 done < <(find "$source_folder/examples" -type f ! -name '.*' ! -path '*/__pycache__/*')
 
+echo "-- the programs are hardened"
+for program in tavimor tavimor-cli; do "$here/hardening.sh" "$prefix/bin/$program"; done
+
+echo "-- the documents link to nothing that is not installed"
+while IFS=: read -r page link; do
+  [ -e "$(dirname "$page")/${link%%#*}" ] || fail "$page links to $link, which is not installed"
+done < <(grep -rHo --include='*.md' '](\([^):#]*\)[)#]' "$share/doc/tavimor" | sed 's/](//; s/[)#]$//')
+
 echo "-- desktops understand what they read"
 entry=$share/applications/tavimor.desktop
 desktop-file-validate "$entry"
@@ -45,10 +53,11 @@ for program in tavimor tavimor-cli; do
   page=$(find "$share/man/man1" -name "$program.1*")
   [ -n "$page" ] || fail "no man page of $program"
   if [ "${page##*.}" = gz ]; then gzip -dc "$page" >"$work/$program.1"; else cp "$page" "$work/$program.1"; fi
-  # Which other pages are installed on this machine is of no interest.
+  # Which other pages are installed on this machine is of no interest, nor what a page of NetBSD's own may hold.
   expectEqual "what mandoc finds in $program.1" "" \
-    "$(mandoc -T lint "$work/$program.1" | grep -v 'referenced manual not found' || true)"
+    "$(mandoc -T lint "$work/$program.1" | grep -v 'referenced manual not found\|operating system explicitly specified' || true)"
   manualPage "$work/$program.1" >"$work/page"
+  tail -n 1 "$work/page" | grep -q "^Tavimor $version " || fail "$program.1 does not name the version $version"
   "$prefix/bin/$program" --help >"$work/help"
   commands=$(sed -n '/^Commands:/,/^$/s/^  \([a-z]*\) .*/\1/p' "$work/help")
   for command in $commands; do
