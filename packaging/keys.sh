@@ -1,7 +1,21 @@
 # Keys for the real program on the display of $DISPLAY; to be sourced. Without a window manager it is the script that
 # gives a new window the keyboard.
 
-focus() { timeout 30 xdotool search --sync --onlyvisible --name "$1" windowfocus --sync; }
+# window NAME: the windows of that name, of the program $pid alone where there is one: those of a program that has ended
+# may stand for a moment.
+window() { xdotool search --all ${pid:+--pid "$pid"} --onlyvisible --name "$1"; }
+
+# focus NAME [N]: gives the keyboard to the window, or to the Nth of that name, as soon as there is one. Any other window
+# that goes meanwhile makes xdotool fail, which is no more than a reason to look again.
+focus() {
+  for _ in $(seq 300); do
+    if giveKeyboard "$(window "$1" 2>/dev/null | sed -n "${2:-1}p")" 2>/dev/null; then return; fi
+    sleep 0.1
+  done
+  echo "there is no window $1" >&2
+  return 1
+}
+giveKeyboard() { [ -n "$1" ] && timeout 5 xdotool windowfocus --sync "$1"; }
 keys() { xdotool key --delay 30 "$@"; }
 typed() { xdotool type --delay 15 -- "$1"; }
 

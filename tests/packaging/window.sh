@@ -11,8 +11,7 @@ HOME=$folder "$1" &
 pid=$!
 trap 'kill "$pid" 2>/dev/null || true; rm -rf "$folder"' EXIT
 
-isOpen() { xdotool search --onlyvisible --name "$1" >/dev/null; }
-waitFor isOpen '^Tavimor$'
+isOpen() { window "$1" >/dev/null; }
 focus '^Tavimor$'
 showsManual() { keys F1 && isOpen '^Tavimor Help$'; }
 waitFor showsManual

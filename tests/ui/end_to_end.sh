@@ -43,8 +43,7 @@ keys ctrl+shift+s
 focus '^Save As$'
 typed "$folder/missing/problem"
 keys Return
-waitFor xdotool search --onlyvisible --name '^Tavimor$' getwindowname %2 >/dev/null
-xdotool search --onlyvisible --name '^Tavimor$' windowfocus --sync %2
+focus '^Tavimor$' 2
 keys Return
 endsWith 1
 

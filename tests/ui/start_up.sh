@@ -9,7 +9,7 @@ comma=de_DE.UTF-8
 
 milliseconds() { date +%s%3N; }
 
-shows() { xdotool search --onlyvisible --name "$1" >/dev/null 2>&1; }
+shows() { window "$1" >/dev/null 2>&1; }
 
 # begin LOCALE ARGUMENT...: the program in this locale.
 begin() {
@@ -26,7 +26,7 @@ answer() {
 
 # With a point nothing is asked, and the About window stands for two to three seconds before the main window.
 begin C.UTF-8
-timeout 30 xdotool search --sync --onlyvisible --name '^About Tavimor$' >/dev/null
+waitFor shows '^About Tavimor$'
 shown=$(milliseconds)
 shows '^Tavimor$' && fail "the main window is there beside the About window"
 focus '^Tavimor$'
@@ -41,7 +41,7 @@ for key in alt+n Escape; do
   begin "$comma"
   answer "$key"
   endsWith 0
-  shows Tavimor && fail "a window is left"
+  xdotool search --onlyvisible --name Tavimor >/dev/null 2>&1 && fail "a window is left"
 done
 begin "$comma"
 focus '^Decimal Comma Warning!$'
@@ -52,7 +52,15 @@ endsWith 0
 "$tavimor" --no-such-option 2>usage &
 pid=$!
 endsWith 2
-grep -q -- --no-such-option usage || fail "the wrong option is not named"
+[ "$(cat usage)" = 'tavimor: unexpected argument "--no-such-option"; see tavimor --help' ] || fail "$(cat usage)"
+
+# What it is asked to print and cannot is an error.
+for option in --help --version; do
+  "$tavimor" "$option" >/dev/full 2>full &
+  pid=$!
+  endsWith 1
+  [ "$(cat full)" = "tavimor: standard output: Run-time error '61': Disk full" ] || fail "$(cat full)"
+done
 
 # Yes goes on; every number that is read, shown and written has a point.
 printf ' 0 \r\n"x",-1,1.5,1.25,#TRUE#,.25,1\r\n#FALSE#\r\n' >problem
