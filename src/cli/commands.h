@@ -4,23 +4,24 @@
 #include <string>
 #include <vector>
 
+#include "cli/exit_code.h"
 #include "cli/options.h"
 
 namespace tavimor {
 
-/// What the program's exit status says.
-enum class ExitCode { Success = 0, Error = 1, Usage = 2, NoFit = 3 };
+namespace tavimor {
 
 /// Arguments that do not go with the problem they name.
 struct UsageError : std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
-/// Each command prints on standard output. Errors: RunTimeError and BadFile for files and for the run-time errors of
-/// the operations, UsageError.
+/// Each command prints on standard output and ends with NoFit where it printed results that are not finite. Errors:
+/// RunTimeError and BadFile for files and for the run-time errors of the operations, UsageError.
 
 /// Fits the problem and prints the results listing, one list item a line; saves the fitted problem as the pair
-/// `output` unless that is empty. A line on standard error says where few digits of the listing are right.
+/// `output` unless that is empty or there is no fit. A line on standard error says where few digits of the listing are
+/// right.
 ExitCode fitCommand(const std::string& problem, const std::string& output, const CommandOptions& options);
 
 /// Prints what a second opinion tells of the fit: verdict, right digits, the precise solution, statistics, remedy.
@@ -29,7 +30,7 @@ ExitCode analyseCommand(const std::string& problem, const CommandOptions& option
 /// Prints how well each combination of degrees would fit.
 ExitCode degreesCommand(const std::string& problem, const CommandOptions& options);
 
-/// Prints the specification block of each variable and the stored results, if any.
+/// Prints the specification block of each variable and the stored results, or that there are none.
 ExitCode showCommand(const std::string& problem);
 
 /// Prints the estimate at the point, or, where `values` is empty, at each point that standard input names in a line.

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "cli/commands.h"
+#include "cli/exit_code.h"
 #include "engine/fit.h"
 #include "formats/open_problem.h"
 

@@ -21,8 +21,6 @@ class Errors : public test::CommandTest {
     EXPECT_EQ(outcome.err, "tavimor-cli: " + line + "\n");
   }
 };
-}
-};
 
 TEST_F(Errors, AMissingProblem) {
   for (const std::string command : {"fit", "show", "eval", "report"})
