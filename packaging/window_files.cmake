@@ -5,8 +5,8 @@ install(FILES ${PROJECT_SOURCE_DIR}/help/tavimor.hlp DESTINATION ${CMAKE_INSTALL
 # Run by both programs, never by hand: see src/platform/helper_program.h.
 install(TARGETS tavimor-workbook DESTINATION ${CMAKE_INSTALL_LIBEXECDIR}/tavimor COMPONENT tavimor)
 
-# The documents keep their places beside each other, so that their links hold. What README.md says for developers links
-# to what only the sources have.
+# The documents keep their places beside each other, so that their links hold. What is written for developers links to
+# what only the sources have, and stays out.
 set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/README.md)
 file(READ ${PROJECT_SOURCE_DIR}/README.md readme)
 string(REGEX REPLACE "\n## For developers\n.*" "" readme "${readme}")
@@ -15,7 +15,8 @@ set(documents ${CMAKE_INSTALL_DATAROOTDIR}/doc/tavimor)
 install(FILES ${PROJECT_BINARY_DIR}/README.md ${PROJECT_SOURCE_DIR}/CHANGELOG.md
   DESTINATION ${documents} COMPONENT tavimor)
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/docs ${PROJECT_SOURCE_DIR}/examples DESTINATION ${documents} COMPONENT tavimor
-  PATTERN __pycache__ EXCLUDE PATTERN .gitattributes EXCLUDE)
+  PATTERN __pycache__ EXCLUDE PATTERN .gitattributes EXCLUDE
+  PATTERN architecture.md EXCLUDE PATTERN releasing.md EXCLUDE)
 
 # What a desktop reads.
 if(UNIX AND NOT APPLE)
