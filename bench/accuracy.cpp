@@ -1,10 +1,12 @@
-// Prints the tables of docs/numerics.md: the digits that fits reach, beside how ill-conditioned they are.
+// Prints the tables of docs/numerics.md, the digits that fits reach, beside how ill-conditioned they are; then the rows
+// of the manual on ill-conditioned fits.
 //   bench-accuracy
 #include <cstdio>
 #include <optional>
 
 #include "support/condition_number.h"
 #include "support/example.h"
+#include "support/ill_conditioned_fits.h"
 #include "support/known_fits.h"
 
 namespace {
@@ -144,6 +146,12 @@ void printConditioning(double lower, double upper, const std::vector<double>& ce
   }
 }
 
+void printManual() {
+  std::printf("\nThe manual on ill-conditioned fits:\n\n");
+  for (const std::string& row : rowsOfIllConditionedFits()) std::printf("%s\n", row.c_str());
+  std::printf("\nThe correlation of nine values 0.1: %s\n", shortText(correlationOfEqualValues()).c_str());
+}
+
 }  // namespace
 
 int main() {
@@ -151,4 +159,5 @@ int main() {
   printConditioning(-1, 1, {0, -1});
   printConditioning(0, 1, {0.5, 0});
   printConditioning(100, 101, {100.5, 100, 0});
+  printManual();
 }
