@@ -1,5 +1,6 @@
 #include "cli/commands.h"
 
+#include "cli/fitting.h"
 #include "cli/output.h"
 #include "cli/problem_files.h"
 #include "model/capture_specs.h"
