@@ -73,8 +73,8 @@ void evaluateInput(const Problem& problem, const PrintPoint& print) {
   long number = 0;
   while (const auto line = lines.next()) {
     ++number;
-    if (isBlank(*line)) continue;
     const bool isTooLong = line->size() >= InputLines::kLongestLine;
+    if (!isTooLong && isBlank(*line)) continue;
     const auto point = isTooLong ? std::nullopt : parsePoint(*line, problem.LastVar + 1);
     if (!point) {
       finishOutput();

@@ -207,14 +207,14 @@ TEST_F(PrintError, WhereTheFourthVariableHasMoreValuesThanTheThird) {
   dialogs.expectAndPrintTo(pdf);
   dialogs.expectAndPress("End", &text);
   printByKey();
-  expectEnd("Run-time error '9':\n\nSubscript out of range");
+  expectEnd("Run-time error '9':\n\nSubscript out of range\nvariable \"z\" has no value 2");
 }
 
 TEST_F(PrintError, WhereTheSpecificationsCannotBeCaptured) {
   openProblem(problemOf({{"x", {1}, 0, 0}}));
   dialogs.expectAndPress("End", &text);
   printByKey();
-  expectEnd("Run-time error '11':\n\nDivision by zero");
+  expectEnd("Run-time error '11':\n\nDivision by zero\nvariable \"x\" has a single value");
 }
 
 TEST_F(PrintError, WhereTheFolderIsGoneWhenTheReportIsWritten) {
