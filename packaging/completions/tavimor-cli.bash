@@ -64,7 +64,7 @@ _tavimor_cli() {
       import)
         options='--columns --degree --centre --separator --decimal-comma --header --form --tolerance --duplicates --gaps --help'
         ;;
-      export) options='--to --output --name --within --checks --nan-outside --help' ;;
+      export) options='--to --output --name --within --precise --checks --nan-outside --help' ;;
       residuals) options='--output --help' ;;
     esac
     mapfile -t COMPREPLY < <(compgen -W "$options" -- "$word")

@@ -52,6 +52,7 @@ complete -c tavimor-cli -n '__fish_seen_subcommand_from export' -l to -x -d 'The
     -a 'c c++ python fortran octave r javascript latex text gnuplot xlsx json'
 complete -c tavimor-cli -n '__fish_seen_subcommand_from export' -l name -x -d 'The name of the function'
 complete -c tavimor-cli -n '__fish_seen_subcommand_from export' -l within -x -d 'Round, staying within'
+complete -c tavimor-cli -n '__fish_seen_subcommand_from export' -l precise -d 'Take the exact solution'
 complete -c tavimor-cli -n '__fish_seen_subcommand_from export' -l checks -x -d 'The number of check points'
 complete -c tavimor-cli -n '__fish_seen_subcommand_from export' -l nan-outside -d 'NaN outside the intervals'
 complete -c tavimor-cli -n '__fish_seen_subcommand_from fit show eval analyse degrees report copy export residuals; and __tavimor_cli_position 0' \

@@ -40,6 +40,7 @@ void addExportOptions(CLI::App& command, ExportArguments& arguments) {
           "round the coefficients to few digits, staying within T of the fit")
       ->type_name("T")
       ->check(refusalOfDistance);
+  command.add_flag("--precise", arguments.precise, "take the exact least-squares solution");
   command.add_option("--checks", options.checks, "the number of check points, 50 by default")
       ->type_name("N")
       ->check(CLI::Range(Long{0}, kMostChecks));

@@ -11,10 +11,12 @@ namespace tavimor {
 
 namespace {
 
-void requireFitting(const ExportFormat& format, const std::string& output, const FormulaOptions& options) {
+void requireFitting(const ExportFormat& format, const std::string& output, const ExportArguments& arguments) {
   if (format.kind == ExportKind::Bytes && output.empty())
     throw UsageError(std::string(format.name) + " goes to a file: -o OUT is needed");
-  if (format.kind == ExportKind::Problem && options.within)
+  if (format.kind == ExportKind::Problem && arguments.precise)
+    throw UsageError("--precise does not go with " + std::string(format.name) + ", which holds the problem as it is");
+  if (format.kind == ExportKind::Problem && arguments.options.within)
     throw UsageError("--within does not go with " + std::string(format.name) + ", which holds the whole problem");
 }
 
@@ -25,8 +27,8 @@ void deliver(const std::string& bytes, const std::string& output) {
 }
 
 // False where there is no formula, which the user has been told then.
-bool provideFormula(OpenedProblem& opened, const std::string& path) {
-  if (!provideFit(opened, path)) return false;
+bool provideFormula(OpenedProblem& opened, const std::string& path, const ExportArguments& arguments) {
+  if (!(arguments.precise ? providePreciseFit(opened, path) : provideFit(opened, path))) return false;
   if (hasFormula(opened.fit)) return true;
   complain(path, "no formula: a coefficient of the fit is no number");
   return false;
@@ -37,10 +39,10 @@ bool provideFormula(OpenedProblem& opened, const std::string& path) {
 ExitCode exportCommand(const std::string& problem, const std::string& output, const ExportArguments& arguments) {
   const ExportFormat& format = *exportFormat(arguments.format);
   FormulaOptions options = arguments.options;
-  requireFitting(format, output, options);
+  requireFitting(format, output, arguments);
   if (options.name.empty()) options.name = formulaNameOf(problem);
   OpenedProblem opened = openProblem(problem);
-  if (format.kind != ExportKind::Problem && !provideFormula(opened, problem)) return ExitCode::NoFit;
+  if (format.kind != ExportKind::Problem && !provideFormula(opened, problem, arguments)) return ExitCode::NoFit;
   deliver(format.write(opened.problem, opened.fit, options), output);
   return ExitCode::Success;
 }

@@ -13,6 +13,7 @@ namespace tavimor {
 
 struct ExportArguments {
   std::string format;
+  bool precise = false;  // the coefficients of the exact least-squares solution
   FormulaOptions options;
 };
 

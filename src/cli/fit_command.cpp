@@ -1,11 +1,9 @@
-#include "analysis/second_opinion.h"
 #include "cli/commands.h"
 #include "cli/fit_check.h"
 #include "cli/fitting.h"
 #include "cli/output.h"
 #include "cli/problem_changes.h"
 #include "cli/problem_files.h"
-#include "model/capture_specs.h"
 #include "report/listing.h"
 #include "report/no_fit_text.h"
 
@@ -30,13 +28,7 @@ void checkFit(const OpenedProblem& opened, const FitOutcome& outcome, const std:
 }
 
 ExitCode fitPrecisely(OpenedProblem& opened, const std::string& path, const std::string& output) {
-  CaptureSpecs(opened.problem, opened.fields);
-  const SecondOpinion opinion = secondOpinionOn(opened.problem, Reading::AsTyped, centresFromFields(opened));
-  if (!opinion.isExact()) {
-    complain(path, "no precise fit: " + reasonText(opinion.precise.finding, opened.problem));
-    return ExitCode::NoFit;
-  }
-  opened.fit = listedForm(opinion.precise);
+  if (!providePreciseFit(opened, path)) return ExitCode::NoFit;
   printLine("PRECISE: the exact least-squares solution, not that of the fixed order of arithmetic.");
   ShowResults(opened.problem, opened.fit, printLine);
   finishOutput();

@@ -2,7 +2,9 @@
 
 #include <utility>
 
+#include "analysis/second_opinion.h"
 #include "cli/output.h"
+#include "cli/problem_changes.h"
 #include "cli/progress_bar.h"
 #include "model/capture_specs.h"
 #include "report/no_fit_text.h"
@@ -31,6 +33,16 @@ ExitCode endOfResults(const std::string& problem, const Fit& fit) {
   if (!fit.FitDone || hasFiniteResults(fit)) return ExitCode::Success;
   complain(problem, "not all results are finite numbers");
   return ExitCode::NoFit;
+}
+
+bool providePreciseFit(OpenedProblem& opened, const std::string& path) {
+  CaptureSpecs(opened.problem, opened.fields);
+  const SecondOpinion opinion = secondOpinionOn(opened.problem, Reading::AsTyped, centresFromFields(opened));
+  if (opinion.isExact())
+    opened.fit = listedForm(opinion.precise);
+  else
+    complain(path, "no precise fit: " + reasonText(opinion.precise.finding, opened.problem));
+  return opinion.isExact();
 }
 
 }  // namespace tavimor

@@ -20,4 +20,8 @@ bool provideFit(OpenedProblem& opened, const std::string& path);
 /// them is no finite number, else with Success.
 ExitCode endOfResults(const std::string& problem, const Fit& fit);
 
+/// The exact least-squares solution takes the place of the problem's fit. False where there is none, which the user has
+/// been told then.
+bool providePreciseFit(OpenedProblem& opened, const std::string& path);
+
 }  // namespace tavimor

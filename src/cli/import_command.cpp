@@ -2,6 +2,7 @@
 
 #include "cli/output.h"
 #include "cli/progress_bar.h"
+#include "formats/problem_json.h"
 #include "formats/problem_writer.h"
 #include "formats/tables/import_table.h"
 #include "formats/tables/table_text.h"
@@ -30,21 +31,40 @@ ImportOptions optionsFrom(const ImportArguments& arguments) {
   return options;
 }
 
-ImportOutcome importShowingProgress(const std::string& table, const ImportArguments& arguments) {
+std::string nameOf(const std::string& table) { return table == kStandardInput ? "standard input" : table; }
+
+// No table begins with a brace.
+bool isJson(std::string_view text) {
+  const std::size_t first = text.find_first_not_of(" \t\r\n\xEF\xBB\xBF");
+  return first != std::string_view::npos && text[first] == '{';
+}
+
+ExitCode importJson(const std::string& table, std::string_view text, const std::string& output,
+                    const ImportArguments& arguments) {
+  if (arguments != ImportArguments{}) throw UsageError("the options are those of tables; this is a problem as JSON");
+  const StoredProblem read = problemFromJson(text, nameOf(table));
+  writeProblem(read.problem, read.fit, output);
+  printLine(read.fit.FitDone ? "A problem as JSON, with its fit." : "A problem as JSON, without a fit.");
+  finishOutput();
+  return ExitCode::Success;
+}
+
+ImportOutcome importShowingProgress(std::string_view text, const ImportArguments& arguments) {
   ImportOptions options = optionsFrom(arguments);
   ProgressBar bar;
   options.progress = [&](double part) { bar.show(part); };
-  const TableText text = table == kStandardInput ? TableText::ofStandardInput() : TableText::ofFile(table);
-  return importTable(text.view(), options);
+  return importTable(text, options);
 }
 
 }  // namespace
 
 ExitCode importCommand(const std::string& table, const std::string& output, const ImportArguments& arguments) {
-  const ImportOutcome outcome = importShowingProgress(table, arguments);
+  const TableText text = table == kStandardInput ? TableText::ofStandardInput() : TableText::ofFile(table);
+  if (isJson(text.view())) return importJson(table, text.view(), output, arguments);
+  const ImportOutcome outcome = importShowingProgress(text.view(), arguments);
   if (!outcome.problem) {
     for (const Finding& finding : outcome.findings)
-      if (finding.isRefusal()) complain(table == kStandardInput ? "standard input" : table, finding.text);
+      if (finding.isRefusal()) complain(nameOf(table), finding.text);
     return ExitCode::Error;
   }
   writeProblem(*outcome.problem, Fit(), output);

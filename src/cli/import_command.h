@@ -20,10 +20,13 @@ struct ImportArguments {
   double tolerance = 1E-9;
   std::string duplicates = "refuse";
   std::string gaps = "refuse";
+
+  bool operator==(const ImportArguments&) const = default;
 };
 
-/// Makes a problem of a table, a file or, for "-", standard input, saves it as the pair `output` and prints what was
-/// taken. A table that is refused is told on standard error, a finding a line, and nothing is written.
+/// Makes a problem of a table or of a problem's JSON text, a file or, for "-", standard input, saves it as the pair
+/// `output` and prints what was taken. A table that is refused is told on standard error, a finding a line, and nothing
+/// is written.
 ExitCode importCommand(const std::string& table, const std::string& output, const ImportArguments& arguments);
 
 }  // namespace tavimor

@@ -1,7 +1,10 @@
 #include <gmock/gmock.h>
 
+#include <cmath>
+
 #include "cli/cli.h"
 #include "formats/problem_json.h"
+#include "runtime/number_text.h"
 #include "support/example.h"
 #include "support/stored.h"
 #include "support/stored_problems.h"
@@ -85,6 +88,16 @@ TEST_F(ExportCommand, RefusesAFitThatHasOverflowed) {
   EXPECT_EQ(outcome.exitCode, 3);
   EXPECT_EQ(outcome.out, "");
   EXPECT_THAT(outcome.err, HasSubstr("no formula: a coefficient of the fit is no number"));
+}
+
+TEST_F(ExportCommand, TakesTheExactSolutionWhereThatIsAskedFor) {
+  const std::string filip = test::examplePath("nist/filip");
+  ASSERT_EQ(tavimorCli({"fit", filip, "--precise", "-o", folder / "precise"}).exitCode, 0);
+  const Outcome outcome = tavimorCli({"export", filip, "--to", "json", "--precise"});
+  EXPECT_EQ(outcome.exitCode, 2);
+  const std::string formula = tavimorCli({"export", filip, "--to", "text", "--precise"}).out;
+  const double constant = test::stored(folder / "precise").Coef(0, 0, 0, 0);
+  EXPECT_THAT(formula, HasSubstr(numberText(std::abs(constant)).substr(0, 13)));
 }
 
 TEST_F(ExportCommand, LeavesTheOldFileWhereItCannotWrite) {

@@ -117,4 +117,21 @@ TEST_F(ImportCommand, TakesNegativeCentres) {
   EXPECT_THAT(readBytes(folder / "p"), HasSubstr("\"x\",0,1,-5,"));
 }
 
+TEST_F(ImportCommand, BringsBackAProblemThatWasExportedAsJson) {
+  ASSERT_EQ(tavimorCli({"fit", examplePath("heat-index"), "-o", folder / "fitted"}).exitCode, 0);
+  ASSERT_EQ(tavimorCli({"export", folder / "fitted", "--to", "json", "-o", folder / "j"}).exitCode, 0);
+  const Outcome outcome = tavimorCli({"import", folder / "j", folder / "p"});
+  EXPECT_EQ(outcome.out, "A problem as JSON, with its fit.\n");
+  EXPECT_EQ(readBytes(folder / "p"), readBytes(folder / "fitted"));
+  EXPECT_EQ(readBytes(folder / "p.dat"), readBytes(folder / "fitted.dat"));
+}
+
+TEST_F(ImportCommand, RefusesJsonThatIsNoProblemAndOptionsOfTables) {
+  const Outcome outcome = importTable("\n{\"format\": 1}");
+  EXPECT_EQ(outcome.exitCode, 1);
+  EXPECT_EQ(outcome.err, "tavimor-cli: " + (folder / "t") + ": format: expected a text, found 1\n");
+  EXPECT_EQ(importTable("{}", {"--degree", "2"}).exitCode, 2);
+  expectNothingWritten();
+}
+
 }  // namespace tavimor::test
