@@ -1,18 +1,13 @@
 #pragma once
 
-#include <stdexcept>
 #include <string>
 #include <vector>
 
 #include "cli/exit_code.h"
 #include "cli/options.h"
+#include "cli/usage_error.h"
 
 namespace tavimor {
-
-/// Arguments that do not go with the problem they name.
-struct UsageError : std::runtime_error {
-  using std::runtime_error::runtime_error;
-};
 
 /// Each command prints on standard output and ends with NoFit where it printed results that are not finite. Errors:
 /// RunTimeError and BadFile for files and for the run-time errors of the operations, UsageError.

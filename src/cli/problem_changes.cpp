@@ -2,7 +2,7 @@
 
 #include <sstream>
 
-#include "cli/commands.h"
+#include "cli/usage_error.h"
 #include "runtime/number_text.h"
 #include "runtime/val.h"
 
