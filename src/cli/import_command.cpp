@@ -49,8 +49,7 @@ ExitCode importJson(const std::string& table, std::string_view text, const std::
   return ExitCode::Success;
 }
 
-ImportOutcome importShowingProgress(std::string_view text, const ImportArguments& arguments) {
-  ImportOptions options = optionsFrom(arguments);
+ImportOutcome importShowingProgress(std::string_view text, ImportOptions options) {
   ProgressBar bar;
   options.progress = [&](double part) { bar.show(part); };
   return importTable(text, options);
@@ -59,9 +58,10 @@ ImportOutcome importShowingProgress(std::string_view text, const ImportArguments
 }  // namespace
 
 ExitCode importCommand(const std::string& table, const std::string& output, const ImportArguments& arguments) {
+  const ImportOptions options = optionsFrom(arguments);
   const TableText text = table == kStandardInput ? TableText::ofStandardInput() : TableText::ofFile(table);
   if (isJson(text.view())) return importJson(table, text.view(), output, arguments);
-  const ImportOutcome outcome = importShowingProgress(text.view(), arguments);
+  const ImportOutcome outcome = importShowingProgress(text.view(), options);
   if (!outcome.problem) {
     for (const Finding& finding : outcome.findings)
       if (finding.isRefusal()) complain(nameOf(table), finding.text);

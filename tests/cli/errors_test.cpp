@@ -55,7 +55,8 @@ TEST_F(Errors, LittleAddressSpaceIsAnErrorAndNoAbort) {
   for (int n = 0; n < 200 + 200 + 200 * 200; ++n) values += std::to_string(n % 200) + "\n";
   writePair("grid", "1\nx,0,1,100,#TRUE#,0,40\ny,0,1,100,#TRUE#,0,40\n#FALSE#\n", values);
   constexpr rlim_t kMegabyte = rlim_t{1} << 20;
-  for (rlim_t limit = 4 * kMegabyte; limit < 16 * kMegabyte; limit += kMegabyte / 4) {
+  const rlim_t program = std::filesystem::file_size(TAVIMOR_CLI);
+  for (rlim_t limit = program; limit < program + 12 * kMegabyte; limit += kMegabyte / 4) {
     const test::Descriptor nowhere(open("/dev/null", O_WRONLY | O_CLOEXEC));
     test::Process process(STDIN_FILENO, nowhere.number(), nowhere.number(), [&] {
       const rlimit space = {limit, limit};
