@@ -16,6 +16,12 @@ foreach(component tavimor tavimor-cli)
   compress(${share}/doc/${component}/changelog)
 endforeach()
 
+# The compiler's name and the like, which stripping leaves.
+foreach(program tavimor-cli/usr/bin/tavimor-cli tavimor/usr/bin/tavimor tavimor/usr/libexec/tavimor/tavimor-workbook)
+  execute_process(COMMAND strip --remove-section=.comment ${CPACK_TEMPORARY_DIRECTORY}/${program}
+    COMMAND_ERROR_IS_FATAL ANY)
+endforeach()
+
 set(share ${CPACK_TEMPORARY_DIRECTORY}/tavimor-cli/usr/share)
 file(COPY ${CMAKE_CURRENT_LIST_DIR}/overrides/tavimor-cli DESTINATION ${share}/lintian/overrides ${permissions})
 # Where Debian's zsh looks.

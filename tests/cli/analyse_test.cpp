@@ -134,7 +134,7 @@ TEST_F(AnalyseCommand, RefusesWhatDoesNotGoWithTheProblem) {
     const Outcome outcome = tavimorCli(words);
     EXPECT_EQ(outcome.exitCode, 2);
     EXPECT_EQ(outcome.out, "");
-    EXPECT_THAT(outcome.err, HasSubstr(": " + complaint + "\n"));
+    EXPECT_THAT(outcome.err, HasSubstr(": " + complaint + "; see tavimor-cli analyse --help\n"));
   }
 }
 
@@ -170,7 +170,7 @@ TEST_F(DegreesCommand, RefusesDegreesThatFindNoRoom) {
   const Outcome outcome = tavimorCli({"degrees", line(), "--max", "7"});
   EXPECT_EQ(outcome.exitCode, 2);
   EXPECT_THAT(outcome.err,
-              HasSubstr("--max: the degree of variable \"x\" (7) is not below its number of values (3)\n"));
+              HasSubstr("--max: the degree of variable \"x\" (7) is not below its number of values (3); see "));
 }
 
 TEST_F(DegreesCommand, AMissingProblemIsAnError) {

@@ -61,7 +61,7 @@ TEST_F(ExportCommand, WritesAWorkbookIntoAFileOnly) {
   EXPECT_THAT(readBytes(folder / "line.xlsx"), StartsWith("PK"));
   const Outcome outcome = exported({"--to", "xlsx"});
   EXPECT_EQ(outcome.exitCode, 2);
-  EXPECT_THAT(outcome.err, HasSubstr("xlsx goes to a file: -o OUT is needed\n"));
+  EXPECT_THAT(outcome.err, HasSubstr("xlsx goes to a file: -o OUT is needed; see tavimor-cli export --help\n"));
 }
 
 TEST_F(ExportCommand, RefusesWhatDoesNotGoTogether) {

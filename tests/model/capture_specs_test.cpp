@@ -152,7 +152,7 @@ TEST_F(CaptureSpecsTest, AnErrorSaysWhatItIsAbout) {
 TEST_F(CaptureSpecsTest, AStepBeyondTheRangeOverflows) {
   fields[0].txtLL = "-1E308";
   fields[0].txtUL = "1E308";
-  EXPECT_EQ(errorOfCapture(), ErrorNumber::Overflow);
+  EXPECT_EQ(errorOfCapture().number(), ErrorNumber::Overflow);
 }
 
 TEST_F(CaptureSpecsTest, AMiddleBeyondTheRangeOverflows) {
@@ -160,7 +160,7 @@ TEST_F(CaptureSpecsTest, AMiddleBeyondTheRangeOverflows) {
   fields[0].txtUL = "1.5E308";
   CaptureSpecs(model, fields);
   fields[0].txtExpansion = "*";
-  EXPECT_EQ(errorOfCapture(), ErrorNumber::Overflow);
+  EXPECT_EQ(errorOfCapture().number(), ErrorNumber::Overflow);
 }
 
 TEST_F(CaptureSpecsTest, AnEquallySpacedValueBeyondTheRangeOverflows) {

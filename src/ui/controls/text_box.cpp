@@ -176,10 +176,10 @@ void TextBox::release(QMouseEvent* event) {
 void TextBox::contextMenuEvent(QContextMenuEvent* event) {
   QMenu* menu = createStandardContextMenu();
   menu->setAttribute(Qt::WA_DeleteOnClose);
-  auto* paste = menu->findChild<QAction*>(QStringLiteral("edit-paste"));
-  if (pasting_ == Pasting::AsTyped && paste != nullptr) {
-    disconnect(paste, nullptr, this, nullptr);
-    connect(paste, &QAction::triggered, this, [this] { pasteAsTyped(QApplication::clipboard()->text()); });
+  for (QAction* action : menu->actions()) {
+    if (pasting_ == Pasting::AsItIs || !action->text().startsWith(QLineEdit::tr("&Paste"))) continue;
+    disconnect(action, nullptr, this, nullptr);
+    connect(action, &QAction::triggered, this, [this] { pasteAsTyped(QApplication::clipboard()->text()); });
   }
   menu->popup(event->globalPos());
 }

@@ -14,7 +14,6 @@
 namespace tavimor {
 namespace {
 
-using ::testing::HasSubstr;
 using ::testing::StartsWith;
 
 // A problem with a fit whose coefficients are known: F = 1 + 2 (x - 0.5) + 3 (y - 1) + 4 (x - 0.5)(y - 1) and so on.
@@ -191,7 +190,6 @@ TEST_F(EvaluationsWindow, ANameThatTheScriptRefusesIsReportedAndEndsTheClick) {
   EXPECT_EQ(compute(), "");
   EXPECT_EQ(message.toStdString(), main->ScriptControl1.Error().Description);
   EXPECT_THAT(message.toStdString(), StartsWith("'my var' cannot name a variable"));
-  EXPECT_THAT(message.toStdString(), HasSubstr("my var=2"));
   EXPECT_EQ(model.x[1], 2.0) << "read before its statement failed";
   EXPECT_EQ(model.x[2], 0.0) << "never read";
   EXPECT_NO_THROW(main->ScriptControl1.ExecuteStatement("y = x"));
