@@ -11,7 +11,7 @@ namespace tavimor {
 namespace {
 
 constexpr int kWidestNumber = 22;  // characters of "-1.23456789012345E-300"
-constexpr int kColumns = 90;       // of the preview
+constexpr int kColumns = 100;      // of the preview
 constexpr int kRows = 28;
 
 }  // namespace
