@@ -77,8 +77,8 @@ TEST_F(ExportedDocuments, ArePlotsThatGnuplotDraws) {
 TEST_F(ExportedDocuments, AreWorkbooksWithALiveFormula) {
   for (const Dimension& model : fits) {
     const double x = model.X0[0] + 0.125;
-    const Outcome outcome =
-        run("f.xlsx", exported("xlsx", model), "ssconvert --recalc --set B2=" + std::to_string(x) + " -S f.xlsx f.csv");
+    const Outcome outcome = run("f.xlsx", exported("xlsx", model),
+                                "LC_ALL=C.UTF-8 ssconvert --recalc --set B2=" + std::to_string(x) + " -S f.xlsx f.csv");
     ASSERT_EQ(outcome.exitCode, 0) << outcome.err;
     const auto rows = sheet(0);
     PerVariable<double> point{};
@@ -91,7 +91,7 @@ TEST_F(ExportedDocuments, AreWorkbooksWithALiveFormula) {
 
 TEST_F(ExportedDocuments, AreWorkbooksThatEstimateEveryGridPoint) {
   for (const Dimension& model : fits) {
-    const Outcome outcome = run("f.xlsx", exported("xlsx", model), "ssconvert --recalc -S f.xlsx f.csv");
+    const Outcome outcome = run("f.xlsx", exported("xlsx", model), "LC_ALL=C.UTF-8 ssconvert --recalc -S f.xlsx f.csv");
     ASSERT_EQ(outcome.exitCode, 0) << outcome.err;
     const auto rows = sheet(3);
     ASSERT_GT(rows.size(), model.F.size());
