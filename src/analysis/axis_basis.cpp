@@ -91,16 +91,19 @@ void orthonormalise(AxisBasis& basis, const PairMatrix& products, double normErr
   if (std::isfinite(error)) basis.error = error;
 }
 
-AxisBasis axisBasis(const AxisData& axis, const AnalysisOptions& options) {
-  const PairSums& sums = pairSums(options.instructionSet);
+AxisBasis framedBasis(const AxisData& axis) {
   AxisBasis basis;
   basis.count = axis.count;
   basis.terms = axis.terms;
   basis.frame = axisFrame(axis);
-  if (!basis.frame.usable) {
-    basis.error = std::numeric_limits<double>::infinity();
-    return basis;
-  }
+  if (!basis.frame.usable) basis.error = std::numeric_limits<double>::infinity();
+  return basis;
+}
+
+AxisBasis axisBasis(const AxisData& axis, const AnalysisOptions& options) {
+  const PairSums& sums = pairSums(options.instructionSet);
+  AxisBasis basis = framedBasis(axis);
+  if (!basis.frame.usable) return basis;
   try {
     basis.recurrence = axisRecurrence(axis, basis.frame, sums);
     const std::size_t rows = paddedToChains(axis.count);

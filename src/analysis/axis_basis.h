@@ -29,6 +29,9 @@ struct AxisBasis {
 /// Errors: OutOfMemory, AnalysisCancelled.
 AxisBasis axisBasis(const AxisData& axis, const AnalysisOptions& options);
 
+/// A basis of which only the frame is made; its error is infinite where the frame is not usable.
+AxisBasis framedBasis(const AxisData& axis);
+
 /// What the values of the polynomials of one axis lack: the largest magnitude of each and the bounds of its error.
 struct BasisMagnitudes {
   double largestCoordinate = 1.0;

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <limits>
 #include <new>
 
 #include "engine/parallel.h"
@@ -155,14 +154,8 @@ LongAxisSums putTogether(AxisBasis basis, const AxisData& axis, const std::vecto
 }  // namespace
 
 LongAxisSums longAxisSums(const AxisData& axis, const FunctionValues& function, const AnalysisOptions& options) {
-  AxisBasis basis;
-  basis.count = axis.count;
-  basis.terms = axis.terms;
-  basis.frame = axisFrame(axis);
-  if (!basis.frame.usable) {
-    basis.error = std::numeric_limits<double>::infinity();
-    return {std::move(basis), {}, {}, false};
-  }
+  AxisBasis basis = framedBasis(axis);
+  if (!basis.frame.usable) return {std::move(basis), {}, {}, false};
   try {
     basis.recurrence = axisRecurrence(axis, basis.frame, pairSums(options.instructionSet));
     const std::vector<PartSums> parts = sumParts(axis, basis, function, options);
