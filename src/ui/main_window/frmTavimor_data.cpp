@@ -26,10 +26,9 @@ void frmTavimor::cmdAddVars_Click(Long Index) {
                            QStringLiteral("Add values for variable %1").arg(name));
   model_.AddCount[Index] = ValLong(model_.InText);
   if (model_.AddCount[Index] == 0) return;
-  const bool valuesWereGiven = model_.ValuesGiven[Index];
   const Long firstAdded = addLongs(model_.LastPoint[Index], 1);
   addValues(model_, Index);  // before anything is seen of it: it may be refused
-  if (!valuesWereGiven) blocks.at(Index).txtPoints->setEnabled(false);
+  blocks.at(Index).txtPoints->setEnabled(false);
   numberOfValuesChanged(Index);
   EditVarValues(Index, firstAdded);
 }
