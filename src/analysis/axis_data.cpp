@@ -38,6 +38,13 @@ std::size_t ProblemData::terms() const {
   return product;
 }
 
+PerVariable<CentreFrom> centresFromFields(const AllSpecFields& fields) {
+  PerVariable<CentreFrom> centres{};
+  for (Long k = 0; k < kMaxVariables; ++k)
+    if (fields[k].txtExpansion == "*") centres[k] = CentreFrom::Middle;
+  return centres;
+}
+
 ProblemData problemData(const Problem& problem, Reading reading, const PerVariable<CentreFrom>& centres) {
   if (problem.F.last() != problem.LastPoint) throw RunTimeError(ErrorNumber::SubscriptOutOfRange);
   ProblemData data;

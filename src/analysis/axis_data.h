@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "analysis/typed_value.h"
-#include "model/problem.h"
+#include "model/spec_fields.h"
 
 namespace tavimor {
 
@@ -33,6 +33,9 @@ struct ProblemData {
 
 /// Where the centre of a variable is taken from: its number, or the middle between its limits, which is "*".
 enum class CentreFrom { Number, Middle };
+
+/// The middle where the field of a variable shows "*".
+PerVariable<CentreFrom> centresFromFields(const AllSpecFields& fields);
 
 /// Errors: SubscriptOutOfRange where a value list or the function is smaller than LastPoint says.
 ProblemData problemData(const Problem& problem, Reading reading = Reading::AsTyped,

@@ -6,8 +6,12 @@
 #include "cli/analysis.h"
 #include "cli/commands.h"
 #include "cli/output.h"
+#include "cli/problem_changes.h"
+#include "cli/progress_bar.h"
 #include "cli/text_table.h"
 #include "model/grid_indices.h"
+#include "model/value_lists.h"
+#include "report/term_text.h"
 #include "runtime/number_text.h"
 
 namespace tavimor {
@@ -38,7 +42,7 @@ std::string preciseText(const Bounded& solution) {
 
 std::string verdictText(const Analysis& analysis) {
   const Finding& finding = analysis.opinion.precise.finding;
-  const std::string reason = reasonText(finding, analysis.opened.problem);
+  const std::string reason = reasonText(finding, analysis.problem());
   switch (finding.verdict) {
     case Verdict::Exact: return "The exact least-squares solution is known, in the digits shown as precise.";
     case Verdict::NotCertified: return "The exact solution cannot be certified: " + reason + ".";
@@ -64,16 +68,16 @@ void printCoefficients(const Analysis& analysis) {
   const std::string percent = numberText(100 * analysis.level) + " %";
   TextTable table({"TERM", "LISTED", "DIGITS", "PRECISE", "STD ERROR", "t", "p", percent + " FROM", "TO"});
   std::size_t n = 0;
-  forEachIndex(analysis.opened.problem.Degree, [&](const PerVariable<Long>& power) {
+  forEachIndex(analysis.problem().Degree, [&](const PerVariable<Long>& power) {
     const PreciseCoefficient& one = precise.coefficients[n];
     const CoefficientInference& inference = analysis.inference[n];
     std::string listed = "-", digits = "-";
-    if (analysis.hasListed()) {
-      listed = numberText(analysis.opened.fit.Coef.data()[n]);
+    if (analysis.listed.hasListed()) {
+      listed = numberText(analysis.listed.fit.Coef.data()[n]);
       digits = digitsText(analysis.digits.coefficients[n]);
     }
     if (one.isNoise()) digits = "noise";
-    table.add({plainTerm(analysis.opened.problem, power), listed, digits, preciseText(one.solution),
+    table.add({plainTermText(analysis.problem(), power), listed, digits, preciseText(one.solution),
                shortText(inference.standardError), shortText(inference.t), shortText(inference.p),
                shortText(inference.low), shortText(inference.high)});
     ++n;
@@ -84,9 +88,9 @@ void printCoefficients(const Analysis& analysis) {
 
 std::string pointText(const Analysis& analysis) {
   std::string text;
-  const std::vector<double> point = gridPoint(analysis.opened.problem, analysis.residuals.largestAt);
+  const std::vector<double> point = gridPoint(analysis.problem(), analysis.residuals.largestAt);
   for (std::size_t k = 0; k < point.size(); ++k)
-    text += (k > 0 ? ", " : "") + analysis.opened.problem.VarName[k] + " = " + numberText(point[k]);
+    text += (k > 0 ? ", " : "") + analysis.problem().VarName[k] + " = " + numberText(point[k]);
   return text;
 }
 
@@ -143,11 +147,11 @@ void printRemedy(const TriedRemedy& remedy) {
 void printAnalysis(const Analysis& analysis) {
   printLine(verdictText(analysis));
   const Verdict verdict = analysis.opinion.precise.finding.verdict;
-  if (verdict == Verdict::Exact || verdict == Verdict::NotCertified) printLine(listedText(analysis.listedFrom));
+  if (verdict == Verdict::Exact || verdict == Verdict::NotCertified) printLine(listedText(analysis.listed.from));
   if (!analysis.opinion.isExact()) return;
   printCoefficients(analysis);
   printStatistics(analysis);
-  if (!analysis.hasListed()) return;
+  if (!analysis.listed.hasListed()) return;
   printListedDigits(analysis);
   printRemedy(analysis.remedy);
 }
@@ -155,13 +159,19 @@ void printAnalysis(const Analysis& analysis) {
 }  // namespace
 
 ExitCode analyseCommand(const std::string& problem, const CommandOptions& options) {
-  const Analysis analysis = analysisOf(problem, options);
+  const double level = intervalLevel(options);
+  const Reading reading = options.asStored ? Reading::AsStored : Reading::AsTyped;
+  ListedProblem listed = listedProblem(problem, options);
+  ProgressBar bar;
+  AnalysisOptions how;
+  how.progress = [&](double share) { bar.show(share); };
+  const std::unique_ptr<Analysis> analysis = analyse(std::move(listed), level, reading, how);
   if (options.json)
-    printLine(analysisJson(problem, analysis));
+    printLine(analysisJson(problem, *analysis));
   else
-    printAnalysis(analysis);
+    printAnalysis(*analysis);
   finishOutput();
-  const Verdict verdict = analysis.opinion.precise.finding.verdict;
+  const Verdict verdict = analysis->opinion.precise.finding.verdict;
   return verdict == Verdict::NotDetermined || verdict == Verdict::NotFinite ? ExitCode::NoFit : ExitCode::Success;
 }
 

@@ -3,6 +3,8 @@
 #include "analysis/right_digits.h"
 #include "cli/analysis.h"
 #include "model/grid_indices.h"
+#include "model/value_lists.h"
+#include "report/term_text.h"
 
 namespace tavimor {
 
@@ -32,9 +34,9 @@ Json powersOf(const Problem& problem, const PerVariable<Long>& power) {
 
 // Without an exact solution there is what is listed, if anything.
 Json coefficient(const Analysis& analysis, const PerVariable<Long>& power, std::size_t n) {
-  const Problem& problem = analysis.opened.problem;
-  Json one = {{"powers", powersOf(problem, power)}, {"term", plainTerm(problem, power)}};
-  one["listed"] = analysis.hasListed() ? Json(analysis.opened.fit.Coef.data()[n]) : Json(nullptr);
+  const Problem& problem = analysis.problem();
+  Json one = {{"powers", powersOf(problem, power)}, {"term", plainTermText(problem, power)}};
+  one["listed"] = analysis.listed.hasListed() ? Json(analysis.listed.fit.Coef.data()[n]) : Json(nullptr);
   if (!analysis.opinion.isExact()) {
     for (const char* key : {"digits", "precise", "bound", "noise", "standard_error", "t", "p", "low", "high"})
       one[key] = nullptr;
@@ -42,7 +44,7 @@ Json coefficient(const Analysis& analysis, const PerVariable<Long>& power, std::
   }
   const PreciseCoefficient& precise = analysis.opinion.precise.coefficients[n];
   const CoefficientInference& inference = analysis.inference[n];
-  const bool counts = analysis.hasListed() && !precise.isNoise();
+  const bool counts = analysis.listed.hasListed() && !precise.isNoise();
   one["digits"] = counts ? Json(shownDigits(analysis.digits.coefficients[n])) : Json(nullptr);
   one["precise"] = precise.solution.rounded();
   one["bound"] = precise.solution.bound;
@@ -57,8 +59,8 @@ Json coefficient(const Analysis& analysis, const PerVariable<Long>& power, std::
 
 Json coefficients(const Analysis& analysis) {
   Json list = Json::array();
-  if (!analysis.hasListed() && !analysis.opinion.isExact()) return list;
-  forEachIndex(analysis.opened.problem.Degree,
+  if (!analysis.listed.hasListed() && !analysis.opinion.isExact()) return list;
+  forEachIndex(analysis.problem().Degree,
                [&](const PerVariable<Long>& power) { list.push_back(coefficient(analysis, power, list.size())); });
   return list;
 }
@@ -77,7 +79,7 @@ Json statistics(const Analysis& analysis) {
           {"bic", orNull(figures.bic)},
           {"rms", orNull(figures.rms)},
           {"largest_residual", analysis.residuals.largest},
-          {"largest_residual_at", gridPoint(analysis.opened.problem, analysis.residuals.largestAt)}};
+          {"largest_residual_at", gridPoint(analysis.problem(), analysis.residuals.largestAt)}};
 }
 
 Json listedDigitsOf(const ListedDigits& digits) {
@@ -100,9 +102,9 @@ const char* actionName(Remedy remedy) {
 }  // namespace
 
 std::string analysisJson(const std::string& path, const Analysis& analysis) {
-  const Problem& problem = analysis.opened.problem;
+  const Problem& problem = analysis.problem();
   const Finding& finding = analysis.opinion.precise.finding;
-  const bool exact = analysis.opinion.isExact(), counts = exact && analysis.hasListed();
+  const bool exact = analysis.opinion.isExact(), counts = exact && analysis.listed.hasListed();
   const std::string reason = reasonText(finding, problem);
   Json object = {{"problem", path}, {"variables", variables(problem)}, {"verdict", verdictName(finding.verdict)}};
   object["reason"] = reason.empty() ? Json(nullptr) : Json(reason);

@@ -118,7 +118,7 @@ ExitCode degreesCommand(const std::string& problem, const CommandOptions& option
   CaptureSpecs(opened.problem, opened.fields);
   setLargestDegrees(opened, options);
   const Reading reading = options.asStored ? Reading::AsStored : Reading::AsTyped;
-  const ProblemData data = problemData(opened.problem, reading, centresFromFields(opened));
+  const ProblemData data = problemData(opened.problem, reading, centresFromFields(opened.fields));
   ProgressBar bar;
   AnalysisOptions how;
   how.progress = [&](double share) { bar.show(share); };

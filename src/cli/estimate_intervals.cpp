@@ -8,7 +8,7 @@ namespace tavimor {
 
 EstimateIntervals::EstimateIntervals(OpenedProblem& opened, double level) : opened_(opened), level_(level) {
   CaptureSpecs(opened.problem, opened.fields);
-  opinion_ = secondOpinionOn(opened.problem, Reading::AsTyped, centresFromFields(opened));
+  opinion_ = secondOpinionOn(opened.problem, Reading::AsTyped, centresFromFields(opened.fields));
   if (isKnown()) statistics_ = fitStatisticsOf(opinion_.precise);
 }
 

@@ -20,7 +20,7 @@ std::string fewDigitsText(double digits) {
 }  // namespace
 
 std::optional<std::string> warningOf(const OpenedProblem& opened, const std::string& path) {
-  const SecondOpinion opinion = secondOpinionOn(opened.problem, Reading::AsTyped, centresFromFields(opened));
+  const SecondOpinion opinion = secondOpinionOn(opened.problem, Reading::AsTyped, centresFromFields(opened.fields));
   const Finding& finding = opinion.precise.finding;
   if (finding.verdict == Verdict::NotDetermined)
     return "the data determine no fit: " + reasonText(finding, opened.problem) + whereMoreIsTold(path);

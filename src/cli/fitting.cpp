@@ -37,7 +37,7 @@ ExitCode endOfResults(const std::string& problem, const Fit& fit) {
 
 bool providePreciseFit(OpenedProblem& opened, const std::string& path) {
   CaptureSpecs(opened.problem, opened.fields);
-  const SecondOpinion opinion = secondOpinionOn(opened.problem, Reading::AsTyped, centresFromFields(opened));
+  const SecondOpinion opinion = secondOpinionOn(opened.problem, Reading::AsTyped, centresFromFields(opened.fields));
   if (opinion.isExact())
     opened.fit = listedForm(opinion.precise);
   else

@@ -63,11 +63,4 @@ double intervalLevel(const CommandOptions& options) {
   return level;
 }
 
-PerVariable<CentreFrom> centresFromFields(const OpenedProblem& opened) {
-  PerVariable<CentreFrom> centres{};
-  for (Long k = 0; k <= opened.problem.LastVar; ++k)
-    if (opened.fields[k].txtExpansion == "*") centres[k] = CentreFrom::Middle;
-  return centres;
-}
-
 }  // namespace tavimor

@@ -2,7 +2,6 @@
 
 #include <string>
 
-#include "analysis/axis_data.h"
 #include "cli/options.h"
 #include "formats/open_problem.h"
 
@@ -20,8 +19,5 @@ std::vector<Long> wholeNumbers(const std::string& option, const std::string& lis
 
 /// The level of intervals. Errors: UsageError unless between 0 and 1.
 double intervalLevel(const CommandOptions& options);
-
-/// Where the second opinion takes the centres from: the middle where a field shows "*".
-PerVariable<CentreFrom> centresFromFields(const OpenedProblem& opened);
 
 }  // namespace tavimor

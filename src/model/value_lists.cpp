@@ -39,6 +39,12 @@ double& valueOf(Problem& problem, Long v, Long i) {
 
 double valueOf(const Problem& problem, Long v, Long i) { return valueOf(const_cast<Problem&>(problem), v, i); }
 
+std::vector<double> gridPoint(const Problem& problem, const PerVariable<Long>& index) {
+  std::vector<double> point;
+  for (Long k = 0; k <= problem.LastVar; ++k) point.push_back(valueOf(problem, k, index[k]));
+  return point;
+}
+
 void ResizeVarValues(Problem& problem, Long v) {
   if (v < 0 || v >= kMaxVariables) return;
   const Long last = problem.LastPoint[v];

@@ -14,6 +14,9 @@ const std::vector<double>& valueList(const Problem& problem, Long v);
 double& valueOf(Problem& problem, Long v, Long i);
 double valueOf(const Problem& problem, Long v, Long i);
 
+/// The point of the grid with these indices, a value per declared variable. Errors: as valueOf.
+std::vector<double> gridPoint(const Problem& problem, const PerVariable<Long>& index);
+
 /// Gives variable v LastPoint[v] + 1 values: the existing ones stay, new ones are 0. A v outside 0..3 changes nothing.
 /// Errors: SubscriptOutOfRange for a negative LastPoint, OutOfMemory.
 void ResizeVarValues(Problem& problem, Long v);

@@ -44,4 +44,9 @@ std::string termText(const Problem& problem, const PerVariable<Long>& index) {
   return text;
 }
 
+std::string plainTermText(const Problem& problem, const PerVariable<Long>& index) {
+  const std::string text = termText(problem, index);
+  return text.empty() ? "1" : text.substr(1);
+}
+
 }  // namespace tavimor

@@ -11,4 +11,7 @@ namespace tavimor {
 /// own flag.
 std::string termText(const Problem& problem, const PerVariable<Long>& index);
 
+/// The same without the "*" in front: "x^2*(y-0.5)"; "1" for the constant.
+std::string plainTermText(const Problem& problem, const PerVariable<Long>& index);
+
 }  // namespace tavimor

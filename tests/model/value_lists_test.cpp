@@ -4,6 +4,7 @@
 
 #include "model/delete_value.h"
 #include "support/expect_error.h"
+#include "support/problem.h"
 #include "support/stored_problems.h"
 
 namespace tavimor {
@@ -86,5 +87,10 @@ TEST(ValueLists, AVariableListBeyondTheFourthIsAnError) {
 }
 
 // The last value takes the place of the one that goes, in the list and in the table.
+TEST(ValueLists, GiveThePointOfAGridByItsIndices) {
+  const Dimension model = test::problem({{"x", {1, 2}, 1, 0}, {"y", {3, 5, 7}, 1, 0}});
+  EXPECT_EQ(gridPoint(model, {1, 2, 0, 0}), (std::vector<double>{2, 7}));
+}
+
 }  // namespace
 }  // namespace tavimor

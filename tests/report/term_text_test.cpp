@@ -81,5 +81,11 @@ TEST(TermTextOfVariables, PowersAndWavesMixFreely) {
   EXPECT_EQ(termText(model, {3, 4, 0, 0}), "*x^3*cos(2*t)");
 }
 
+TEST(PlainTermText, HasNoMultiplicationInFrontAndIsOneForTheConstant) {
+  const Dimension model = test::problem({{"x", {0, 1}, 1, 0}, {"y", {0, 1}, 1, 0.5}});
+  EXPECT_EQ(plainTermText(model, {1, 1, 0, 0}), "x*(y-0.5)");
+  EXPECT_EQ(plainTermText(model, {}), "1");
+}
+
 }  // namespace
 }  // namespace tavimor
