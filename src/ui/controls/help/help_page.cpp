@@ -86,8 +86,19 @@ void HelpPage::resizeEvent(QResizeEvent* event) {
 void HelpPage::changeEvent(QEvent* event) {
   const int top = topPosition();
   QTextBrowser::changeEvent(event);
+  if (event->type() == QEvent::PaletteChange) followPalette();
   if (event->type() != QEvent::FontChange) return;
   limitLineWidth();
+  scrollTo(top);
+}
+
+// The style sheet acts on a text that is read after it.
+void HelpPage::followPalette() {
+  const QString style = helpStyleSheet(groundOf(palette()));
+  if (style == document()->defaultStyleSheet()) return;
+  const int top = topPosition();
+  document()->setDefaultStyleSheet(style);
+  reload();
   scrollTo(top);
 }
 

@@ -35,6 +35,7 @@ class HelpPage : public QTextBrowser {
   void changeEvent(QEvent* event) override;
 
  private:
+  void followPalette();
   void limitLineWidth();
   void layOutToTheEnd();
   void scrollTo(int position);

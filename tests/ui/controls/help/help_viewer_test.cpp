@@ -214,6 +214,54 @@ TEST_F(HelpWindow, LinesStayReadableAndInPlaceInAWideWindow) {
   EXPECT_EQ(top(), "Second page");
 }
 
+// A dark desktop, while it lives.
+class DarkDesktop {
+ public:
+  DarkDesktop() {
+    QPalette dark = light_;
+    for (const auto ground : {QPalette::Window, QPalette::Base, QPalette::Button}) dark.setColor(ground, Qt::black);
+    for (const auto text : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) dark.setColor(text, Qt::white);
+    QApplication::setPalette(dark);
+  }
+  ~DarkDesktop() { QApplication::setPalette(light_); }
+
+ private:
+  const QPalette light_ = QApplication::palette();
+};
+
+TEST_F(HelpWindow, OnADarkDesktopTheWholeTextIsLightOnDark) {
+  const DarkDesktop dark;
+  show();
+  EXPECT_LT(page().viewport()->grab().toImage().pixelColor(1, 1).lightness(), 64);
+  for (const char* text : {"Beginning", "other page", "apple 0"}) {
+    const QTextCursor found = page().document()->find(QLatin1String(text));
+    ASSERT_FALSE(found.isNull()) << text;
+    const QBrush ink = found.charFormat().foreground();
+    const QColor colour = ink.style() == Qt::NoBrush ? page().palette().color(QPalette::Text) : ink.color();
+    EXPECT_GT(colour.lightness(), 128) << text;
+  }
+}
+
+TEST_F(HelpWindow, ItFollowsADesktopThatTurnsDarkAndKeepsItsPlace) {
+  show("second");
+  const auto heading = [this] { return page().document()->find("Second page").charFormat().foreground().color(); };
+  EXPECT_LT(heading().lightness(), 128);
+  const DarkDesktop dark;
+  EXPECT_TRUE(QTest::qWaitFor([&] { return heading().lightness() > 128; }));
+  EXPECT_EQ(top(), "Second page");
+}
+
+// Twice the size of text in a window of half a small screen.
+TEST_F(HelpWindow, LargeTextDoesNotScrollSideways) {
+  show();
+  viewer->resize(683, 500);
+  QFont large = page().font();
+  large.setPointSizeF(2 * large.pointSizeF());
+  page().setFont(large);
+  EXPECT_TRUE(QTest::qWaitFor([this] { return page().horizontalScrollBar()->maximum() == 0; }));
+  EXPECT_FALSE(page().horizontalScrollBar()->isVisible());
+}
+
 TEST_F(HelpWindow, CodeIsOfFixedPitchAndTablesHaveBorders) {
   path = write("styles.hlp", "<p><code>iiii</code></p><table><tr><th>Key</th></tr><tr><td>F1</td></tr></table>");
   show();
