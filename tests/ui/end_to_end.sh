@@ -38,6 +38,21 @@ waitFor isFitted
 "$cli" show typed | grep -A 3 COEFFICIENTS | cmp - expected || fail "the window's fit is not that of the command line"
 for coefficient in 2 3 4; do grep -qE "^$coefficient( |\$)" expected || fail "no coefficient $coefficient"; done
 
+# What the middle button pastes into a value passes the filter of its keys.
+keys shift+Tab shift+Tab shift+Tab shift+Tab space # from Compute to Edit values
+focus '^Enter/edit values of variable: x$'
+values=$(window '^Enter/edit values of variable: x$')
+xdotool mousemove --window "$values" 300 20 click 1
+keys ctrl+a Delete
+printf 'x=-1,5\n' | xclip -selection primary
+xdotool mousemove --window "$values" 300 20 click 2
+sleep 0.3
+keys ctrl+a ctrl+c
+[ "$(xclip -o -selection clipboard)" = -15 ] || fail "pasted: $(xclip -o -selection clipboard)"
+endPolitely
+start "$folder/typed"
+waitUntilOpen typed
+
 # A path that cannot be written is a run-time error: the box's End, behind "Save a copy...", ends the program with exit
 # code 1.
 keys ctrl+shift+s

@@ -54,6 +54,18 @@ pid=$!
 endsWith 2
 [ "$(cat usage)" = 'tavimor: unexpected argument "--no-such-option"; see tavimor --help' ] || fail "$(cat usage)"
 
+# Without a display it says so in one line, after wrong usage.
+for display in "" :99999; do
+  env -u WAYLAND_DISPLAY QT_QPA_PLATFORM=xcb DISPLAY="$display" "$tavimor" 2>no_display &
+  pid=$!
+  endsWith 1
+  [ "$(wc -l <no_display)" = 1 ] && grep -q '^tavimor: no window can be shown: ' no_display || fail "$(cat no_display)"
+  env -u WAYLAND_DISPLAY QT_QPA_PLATFORM=xcb DISPLAY="$display" "$tavimor" --no-such-option 2>usage &
+  pid=$!
+  endsWith 2
+  [ "$(wc -l <usage)" = 1 ] || fail "$(cat usage)"
+done
+
 # What it is asked to print and cannot is an error.
 for option in --help --version; do
   "$tavimor" "$option" >/dev/full 2>full &
