@@ -55,9 +55,10 @@ std::vector<std::string> leftOver(const std::string& target) {
 
 }  // namespace
 
-FilePair::FilePair(const std::string& path, FileSteps& steps, Patience patience)
+FilePair::FilePair(const std::string& path, FileSteps& steps, Patience patience, Access newAccess)
     : steps_(steps),
       target_(replaceable(path)),
+      newAccess_(newAccess),
       valuesLock_(target_.values, patience),
       specificationLock_(target_.specification, patience) {
   finishInterruptedSave();
@@ -109,7 +110,7 @@ void FilePair::finishInterruptedSave() {
 
 void FilePair::create(std::optional<OutputFile>& file, const std::string& target) {
   const bool isFirst = factsOf(target).kind == FileKind::Missing;
-  file.emplace(ownName(target), steps_, target, isFirst ? Access::Usual : Access::Private);
+  file.emplace(ownName(target), steps_, target, isFirst ? newAccess_ : Access::Private);
 }
 
 void FilePair::finish(OutputFile& file, const std::string& target) {

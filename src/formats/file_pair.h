@@ -53,7 +53,9 @@ namespace tavimor {
 /// longer than `patience`.
 class FilePair {
  public:
-  explicit FilePair(const std::string& path, FileSteps& steps = systemFileSteps(), Patience patience = usualPatience());
+  /// `newAccess` is who may see files that nothing stood in the place of.
+  explicit FilePair(const std::string& path, FileSteps& steps = systemFileSteps(), Patience patience = usualPatience(),
+                    Access newAccess = Access::Usual);
   FilePair(const FilePair&) = delete;
   FilePair& operator=(const FilePair&) = delete;
   ~FilePair();
@@ -80,6 +82,7 @@ class FilePair {
   HeldSignals heldSignals_;
   FileSteps& steps_;
   PairPaths target_;
+  Access newAccess_;
   // One for each file, as two problems can share one: "p" with its values "p.dat", and "p.dat".
   SaveLock valuesLock_;
   SaveLock specificationLock_;

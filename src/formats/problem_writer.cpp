@@ -60,9 +60,9 @@ void writeValues(const Problem& problem, const Fit& fit, OutputFile& file, Count
 }  // namespace
 
 void writeProblem(const Problem& problem, const Fit& fit, const std::string& path, FileSteps& steps,
-                  const Progress& progress) {
+                  const Progress& progress, Access newAccess) {
   requireSameHalves(path);
-  FilePair pair(path, steps);
+  FilePair pair(path, steps, usualPatience(), newAccess);
   Count count(problem, fit, progress);
   writeSpecification(problem, fit, pair.specification(), count);
   writeValues(problem, fit, pair.values(), count);

@@ -6,8 +6,6 @@
 
 #ifdef _WIN32
 #include <windows.h>
-
-#include "platform/files.h"
 #else
 #include <fcntl.h>
 #include <sys/file.h>
@@ -66,8 +64,9 @@ class Descriptor {
   int number_;
 };
 
-int makeFile(const std::string& path) {
-  return open(path.c_str(), O_RDWR | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0666);
+int makeFile(const std::string& path, Access access) {
+  return open(path.c_str(), O_RDWR | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC,
+              access == Access::Private ? 0600 : 0666);
 }
 
 // A file of another user can be locked as well, where it may be read.
@@ -148,8 +147,8 @@ Step lockFound(const std::string& path, Descriptor& file, std::string& holder) {
   return step == Step::Held && unlink(path.c_str()) == 0 ? Step::Again : step;
 }
 
-Step tryOnce(const std::string& path, std::intptr_t& handle, std::string& holder) {
-  Descriptor file(makeFile(path));
+Step tryOnce(const std::string& path, Access access, std::intptr_t& handle, std::string& holder) {
+  Descriptor file(makeFile(path, access));
   if (file.number() < 0 && errno != EEXIST) return Step::Refused;
   const bool isMade = file.number() >= 0;
   Descriptor found(isMade ? -1 : openFound(path));
@@ -164,7 +163,7 @@ Step tryOnce(const std::string& path, std::intptr_t& handle, std::string& holder
 FileLock::Attempt FileLock::tryAcquire() {
   holder_ = kUnknownHolder;
   for (int tries = 0; tries < kMostTries; ++tries) {
-    const Step step = tryOnce(path_, handle_, holder_);
+    const Step step = tryOnce(path_, access_, handle_, holder_);
     if (step == Step::Held) return Attempt::Acquired;
     if (step == Step::Refused) return Attempt::Refused;
     if (step == Step::InTheWay) return Attempt::InTheWay;

@@ -4,6 +4,8 @@
 #include <string>
 #include <utility>
 
+#include "platform/files.h"
+
 namespace tavimor {
 
 /// A lock that is a file: it is held by whoever made the file and has the system's lock on it. That dies with its
@@ -15,7 +17,8 @@ class FileLock {
  public:
   enum class Attempt { Acquired, InTheWay, Refused };
 
-  explicit FileLock(std::string path) : path_(std::move(path)) {}
+  /// `access` is who may see the file. Others' programs are kept away where they can open it only.
+  explicit FileLock(std::string path, Access access = Access::Usual) : path_(std::move(path)), access_(access) {}
   FileLock(const FileLock&) = delete;
   FileLock& operator=(const FileLock&) = delete;
   ~FileLock() { release(); }
@@ -33,6 +36,7 @@ class FileLock {
 
  private:
   std::string path_;
+  Access access_;
   std::intptr_t handle_ = -1;
   std::string holder_;
 };
