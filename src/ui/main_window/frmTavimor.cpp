@@ -40,6 +40,7 @@ void frmTavimor::Form_Load() {
   cmdEvaluations->setEnabled(false);
   mnuExport->setEnabled(false);
   mnuCopyTable->setEnabled(false);
+  showFileName();
   txtOrder->setFocus();
 
   setAcceptDrops(true);
@@ -88,6 +89,7 @@ void frmTavimor::EditLimit(Long k) {
   for (Long i = 0; i <= model_.LastVar; ++i) hideBlock(blocks.at(i));
   showBlock(blocks.at(k));
   labelBlock(k);
+  showBlockOfBlocks(k);
   blocks[k].lblVar->setText(QString::fromStdString(model_.VarName[k]));
   blocks[k].txtLL->setFocus();
 }

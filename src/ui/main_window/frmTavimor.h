@@ -125,6 +125,10 @@ class frmTavimor : public Form, private MainControls {
   void giveValuesAndFixTheirNumber(Long v);
   std::optional<PerVariable<Long>> askForStartingSet();
 
+  // Status line
+  void showFileName();
+  void showBlockOfBlocks(Long k);
+
   // Help
   void mnuHelp_Click();
   void showHelp(const QString& page);

@@ -46,6 +46,14 @@ void MainControls::makeControls() {
   lstCoeff->addAction(mnuCopyTable);
 }
 
+void MainControls::makeStatusLine() {
+  stbStatus = new StatusLine;
+  lblFileName = makeControl<ElidedLabel>(QStringLiteral("lblFileName"), "");
+  lblBlock = makeControl<QLabel>(QStringLiteral("lblBlock"), "");
+  stbStatus->addPermanentWidget(lblFileName);
+  stbStatus->addPermanentWidget(lblBlock);
+}
+
 void MainControls::labelBlock(std::size_t k) const {
   const SpecBlock& block = blocks.at(k);
   lblLL->setBuddy(block.txtLL);

@@ -5,7 +5,9 @@
 #include <QGroupBox>
 #include <vector>
 
+#include "ui/controls/elided_label.h"
 #include "ui/controls/list_box.h"
+#include "ui/controls/status_line.h"
 #include "ui/main_window/spec_block.h"
 
 class QMenuBar;
@@ -53,6 +55,10 @@ struct MainControls {
   ListBox* lstCoeff;
   QAction* mnuCopyTable;  // in the context menu of the list
 
+  StatusLine* stbStatus;
+  ElidedLabel* lblFileName;  // both on the right of the status line
+  QLabel* lblBlock;
+
   /// Makes the next block, hidden, in the place that all blocks share.
   void addBlock();
 
@@ -65,6 +71,7 @@ struct MainControls {
   void makeFileMenu();
   void makeToolsMenu();
   void makeControls();
+  void makeStatusLine();
   void layOutSpecs();
   QLayout* headingLayout() const;
   QLayout* buttonsLayout() const;

@@ -28,6 +28,7 @@ void frmTavimor::cmdAddVars_Click(Long Index) {
   if (model_.AddCount[Index] == 0) return;
   const Long firstAdded = addLongs(model_.LastPoint[Index], 1);
   addValues(model_, Index);  // before anything is seen of it: it may be refused
+  showFileName();
   blocks.at(Index).txtPoints->setEnabled(false);
   numberOfValuesChanged(Index);
   EditVarValues(Index, firstAdded);

@@ -57,6 +57,7 @@ void frmTavimor::showOpened(OpenedProblem opened) {
   mnuOpen->setEnabled(false);
   namesGiven();
   model_.LoadingFile = false;
+  showFileName();
   EditLimit(model_.CurVar - 1);
 }
 
@@ -124,6 +125,7 @@ void frmTavimor::SaveProblem() {
     refusedFile_ = std::exchange(model_.FileName, {});
     showWarning(QString::fromStdString(failure.report() + "\n" + withEscapes(failure.path())));
   }
+  showFileName();
 }
 
 void frmTavimor::saveCopy(const std::string& path) {

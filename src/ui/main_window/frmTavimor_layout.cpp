@@ -22,6 +22,7 @@ QWidget* makeScrolledGround(QVBoxLayout& whole) {
   auto* ground = new QWidget;
   area->setWidget(ground);
   whole.setContentsMargins({});
+  whole.setSpacing(0);
   whole.addWidget(area);
   return ground;
 }
@@ -33,6 +34,7 @@ void addStretched(QBoxLayout& layout, QWidget* widget) { layout.addWidget(widget
 MainControls::MainControls(QWidget& window) {
   makeMenus(window);
   makeControls();
+  makeStatusLine();
   layOutSpecs();
 
   auto* middle = new QHBoxLayout;
@@ -44,6 +46,7 @@ MainControls::MainControls(QWidget& window) {
   rows->addLayout(headingLayout());
   rows->addLayout(middle);
   addStretched(*rows, lstCoeff);
+  whole->addWidget(stbStatus);
   window.resize(kInitialSize.boundedTo(window.screen()->availableSize() - kFrame));
 
   addBlock();
