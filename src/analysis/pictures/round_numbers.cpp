@@ -1,0 +1,44 @@
+#include "analysis/pictures/round_numbers.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace tavimor {
+
+double roundStep(double lower, double upper, int parts) {
+  const double least = (upper / parts - lower / parts);
+  const double unit = std::pow(10.0, std::floor(std::log10(least)));
+  for (const double factor : {1.0, 2.0, 5.0})
+    if (factor * unit >= least) return factor * unit;
+  return 10.0 * unit;
+}
+
+std::vector<double> roundNumbersBetween(double lower, double upper, int most) {
+  std::vector<double> numbers;
+  if (!std::isfinite(lower) || !std::isfinite(upper) || !(lower < upper)) return numbers;
+  const double step = roundStep(lower, upper, most);
+  if (!std::isnormal(step)) return numbers;
+  const double first = std::floor(lower / step);
+  if (first + 1.0 == first) return numbers;  // the interval is narrower than the digits of its ends can tell
+  for (int n = 0; std::ssize(numbers) < most; ++n) {
+    const double number = (first + n) * step;
+    if (!(number < upper)) break;
+    if (number > lower) numbers.push_back(number);
+  }
+  return numbers;
+}
+
+int axisExponent(double lower, double upper) {
+  constexpr int kLargest = 200, kSmallest = -200;
+  const double magnitude = std::max(std::fabs(lower), std::fabs(upper));
+  if (magnitude == 0.0 || !std::isfinite(magnitude)) return 0;
+  const int exponent = static_cast<int>(std::floor(std::log10(magnitude)));
+  return exponent > kLargest || exponent < kSmallest ? exponent : 0;
+}
+
+double dividedByPower(double value, int exponent) {
+  const int half = exponent / 2;  // the whole power may be beyond the range of a double
+  return value / std::pow(10.0, half) / std::pow(10.0, exponent - half);
+}
+
+}  // namespace tavimor
