@@ -1,6 +1,7 @@
 #include "analysis/distributions.h"
 
 #include <boost/math/distributions/fisher_f.hpp>
+#include <boost/math/distributions/normal.hpp>
 #include <boost/math/distributions/students_t.hpp>
 #include <cmath>
 
@@ -31,5 +32,11 @@ double upperFisher(double f, double freedomAbove, double freedomBelow) {
   const boost::math::fisher_f_distribution<double, Policy> fisher(freedomAbove, freedomBelow);
   return boost::math::cdf(boost::math::complement(fisher, f));
 }
+
+double normalQuantile(double level) {
+  return boost::math::quantile(boost::math::normal_distribution<double, Policy>(), level);
+}
+
+double normalProbability(double x) { return std::erfc(-x / std::sqrt(2.0)) / 2; }
 
 }  // namespace tavimor

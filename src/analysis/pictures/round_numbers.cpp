@@ -1,7 +1,10 @@
 #include "analysis/pictures/round_numbers.h"
 
 #include <algorithm>
+#include <charconv>
 #include <cmath>
+
+#include "runtime/number_text.h"
 
 namespace tavimor {
 
@@ -39,6 +42,15 @@ int axisExponent(double lower, double upper) {
 double dividedByPower(double value, int exponent) {
   const int half = exponent / 2;  // the whole power may be beyond the range of a double
   return value / std::pow(10.0, half) / std::pow(10.0, exponent - half);
+}
+
+std::string shortNumber(double value) {
+  if (!std::isfinite(value)) return numberText(value);
+  char text[32];
+  const auto end = std::to_chars(text, text + sizeof text, value, std::chars_format::scientific, 5);
+  double rounded = value;
+  std::from_chars(text, end.ptr, rounded);
+  return numberText(rounded);
 }
 
 }  // namespace tavimor

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string>
 #include <vector>
 
 namespace tavimor {
@@ -17,5 +18,8 @@ int axisExponent(double lower, double upper);
 
 /// A number divided by a power of ten, of any size.
 double dividedByPower(double value, int exponent);
+
+/// A number with 6 significant digits, for the eye.
+std::string shortNumber(double value);
 
 }  // namespace tavimor
