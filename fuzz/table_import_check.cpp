@@ -39,7 +39,7 @@ bool isSame(const Table4& a, const Table4& b) {
 void requireConsistent(const ImportOutcome& outcome) {
   if (outcome.problem.has_value() == anyRefusal(outcome.findings))
     throw std::logic_error("a problem and a refusal, or neither");
-  for (const Finding& finding : outcome.findings)
+  for (const TableFinding& finding : outcome.findings)
     if (finding.text.empty() || finding.text.find('\n') != std::string::npos)
       throw std::logic_error("a finding that is no line: " + finding.text);
 }

@@ -22,8 +22,6 @@ namespace tavimor {
 
 namespace {
 
-constexpr std::size_t kExcerptBytes = 40;
-
 std::string variableNames(const Problem& problem) {
   std::string names = problem.VarName[0];
   for (Long v = 1; v <= problem.LastVar; ++v) names += ", " + problem.VarName[v];
@@ -35,13 +33,7 @@ std::string expectedPoint(const Problem& problem) {
   return numberText(problem.LastVar + 1) + " numbers, one each for " + variableNames(problem);
 }
 
-// The text in quotes, fit for one line of a message.
-std::string inQuotes(std::string_view text) {
-  std::string excerpt = utf8FromBytes(trimmed(text.substr(0, kExcerptBytes)));
-  for (char& c : excerpt)
-    if (static_cast<unsigned char>(c) < ' ' || c == '\x7F') c = '?';
-  return '"' + excerpt + '"';
-}
+std::string inQuotes(std::string_view text) { return '"' + excerpt(text) + '"'; }
 
 bool isBlank(std::string_view line) { return line.find_first_not_of(" \t\r") == std::string_view::npos; }
 

@@ -63,12 +63,12 @@ ExitCode importCommand(const std::string& table, const std::string& output, cons
   if (isJson(text.view())) return importJson(table, text.view(), output, arguments);
   const ImportOutcome outcome = importShowingProgress(text.view(), options);
   if (!outcome.problem) {
-    for (const Finding& finding : outcome.findings)
+    for (const TableFinding& finding : outcome.findings)
       if (finding.isRefusal()) complain(nameOf(table), finding.text);
     return ExitCode::Error;
   }
   writeProblem(*outcome.problem, Fit(), output);
-  for (const Finding& finding : outcome.findings) printLine(finding.text);
+  for (const TableFinding& finding : outcome.findings) printLine(finding.text);
   finishOutput();
   return ExitCode::Success;
 }

@@ -11,12 +11,10 @@ namespace {
 
 using nlohmann::json;
 
-constexpr std::size_t kExcerptCharacters = 40;
-
 std::string shown(const json& value) {
   if (value.is_array()) return "an array of " + std::to_string(value.size());
   if (value.is_object()) return "an object";
-  return std::string(firstCharacters(value.dump(-1, ' ', false, json::error_handler_t::replace), kExcerptCharacters));
+  return excerpt(value.dump(-1, ' ', false, json::error_handler_t::replace));
 }
 
 bool hasNumber(const json& value) { return value.is_number() || value == "INF" || value == "-INF" || value == "NAN"; }

@@ -21,7 +21,6 @@ namespace {
 constexpr std::size_t kWindowBytes = std::size_t{256} * 1024;
 constexpr std::size_t kNumbersAtATime = 4096;
 constexpr std::ptrdiff_t kUsualFieldBytes = 64;  // a window with less left is filled before a number is read
-constexpr std::size_t kExcerptCharacters = 40;
 constexpr const char* kTooLong = "a field that is too long";
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
@@ -107,7 +106,7 @@ InputFile::NumberField InputFile::peekNumber(const char* item) {
     if (numeral.end != at_ && isFieldEnd(end) && !needsMore(end)) return {numeral.value, end};
     if (fill()) continue;  // the window may have cut the numeral, even between "1E" and "5"
     end = std::find_if(end, last_, [this](const char& c) { return isFieldEnd(&c); });
-    refuse(std::string(item) + " (a number)", needsMore(end) ? kTooLong : excerpt());
+    refuse(std::string(item) + " (a number)", needsMore(end) ? kTooLong : foundText());
   }
 }
 
@@ -121,7 +120,7 @@ std::string_view InputFile::peekPlainField(const char* item) {
     if (!fill()) refuse(item, kTooLong);
     end = at_ + length;
   }
-  if (at_ == last_) refuse(item, excerpt());
+  if (at_ == last_) refuse(item, foundText());
   return {at_, static_cast<std::size_t>(end - at_)};
 }
 
@@ -142,7 +141,7 @@ const char* InputFile::findClosingQuote(const char* item) {
       }
     }
     if (at == last_ || *at == '\n')
-      refuse(std::string(item) + " with a closing quotation mark", excerpt() + " and no such mark");
+      refuse(std::string(item) + " with a closing quotation mark", foundText() + " and no such mark");
     ++at;
   }
 }
@@ -180,7 +179,7 @@ Long InputFile::readLong(const char* item, Long least, Long most) {
   const double whole = std::nearbyint(field.value);
   if (!(whole >= least && whole <= most))
     refuse(std::string(item) + " (a whole number from " + numberText(least) + " to " + numberText(most) + ")",
-           excerpt());
+           foundText());
   consume(field.end);
   return toLong(whole);
 }
@@ -189,7 +188,7 @@ bool InputFile::readBoolean(const char* item) {
   const std::string_view field = peekPlainField(item);
   const bool isTrue = equalIgnoringCase(trimmed(field), "#TRUE#");
   if (!isTrue && !equalIgnoringCase(trimmed(field), "#FALSE#"))
-    refuse(std::string(item) + " (#TRUE# or #FALSE#)", excerpt());
+    refuse(std::string(item) + " (#TRUE# or #FALSE#)", foundText());
   consume(field.data() + field.size());
   return isTrue;
 }
@@ -213,7 +212,7 @@ void InputFile::expectEnd() {
     skipBlanks();
     if (needsMore(at_) && fill()) continue;
     if (at_ == last_) return;
-    if (*at_ == ',' || !isFieldEnd(at_)) refuse("the end of the file", excerpt());
+    if (*at_ == ',' || !isFieldEnd(at_)) refuse("the end of the file", foundText());
     consume(at_);
   }
 }
@@ -224,19 +223,15 @@ void InputFile::refuse(const std::string& expected, const std::string& found) co
   throw BadFile(path_, line_, expected, found);
 }
 
-// What stands at this place, fit for one line of a message.
-std::string InputFile::excerpt() const {
+// What stands at this place.
+std::string InputFile::foundText() const {
   if (at_ == last_) return "the end of the file";
   const char* end = at_;
   while (end != last_ && *end != '\n' && (*end != ',' || *at_ == '"')) ++end;
   std::string_view field(at_, static_cast<std::size_t>(end - at_));
   if (field.ends_with('\r')) field.remove_suffix(1);
-  const std::string whole = utf8FromBytes(trimmed(field));
-  if (whole.empty()) return "nothing";
-  std::string text(firstCharacters(whole, kExcerptCharacters));
-  for (char& c : text)
-    if (static_cast<unsigned char>(c) < ' ' || c == '\x7F') c = '?';
-  return '"' + text + '"';
+  const std::string text = excerpt(field);
+  return text.empty() ? "nothing" : '"' + text + '"';
 }
 
 }  // namespace tavimor

@@ -72,7 +72,7 @@ class InputFile {
   std::string_view peekPlainField(const char* item);
   const char* findClosingQuote(const char* item);
   void consume(const char* end);
-  std::string excerpt() const;
+  std::string foundText() const;
 
   std::string path_;
   FileHandle file_;

@@ -102,6 +102,14 @@ std::string withEscapes(std::string_view text) {
   return escaped;
 }
 
+std::string excerpt(std::string_view bytes, std::size_t characters) {
+  const std::string whole = utf8FromBytes(trimmed(bytes));
+  std::string beginning(firstCharacters(whole, characters));
+  for (char& c : beginning)
+    if (static_cast<unsigned char>(c) < ' ' || c == '\x7F') c = '?';
+  return beginning;
+}
+
 std::size_t characterCount(std::string_view text) {
   return text.size() - static_cast<std::size_t>(std::count_if(text.begin(), text.end(), isContinuation));
 }

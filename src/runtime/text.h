@@ -25,6 +25,10 @@ std::string overlaid(std::string_view line, std::size_t column, std::string_view
 /// "\\x1B").
 std::string withEscapes(std::string_view text);
 
+/// The beginning of a text from outside, fit for one line of a message: without blanks at both ends, as UTF-8, a
+/// question mark for each control character.
+std::string excerpt(std::string_view bytes, std::size_t characters = 40);
+
 /// The text without the blanks and tabs at both ends.
 std::string_view trimmed(std::string_view text);
 

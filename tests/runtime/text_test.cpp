@@ -82,6 +82,14 @@ TEST(Text, ColumnsCountCharactersNotBytes) {
   EXPECT_EQ(overlaid("...", 2, "äöü"), ".äö");
 }
 
+TEST(Text, AnExcerptFitsOneLineOfAMessage) {
+  EXPECT_EQ(excerpt(" a\tb\r\nc\x7F "), "a?b??c?");
+  EXPECT_EQ(excerpt("\xFC\xC3\xBC"), "üü");
+  EXPECT_EQ(excerpt("  üü", 1), "ü");
+  EXPECT_EQ(excerpt(std::string(100, 'x')), std::string(40, 'x'));
+  EXPECT_EQ(excerpt(" \t"), "");
+}
+
 TEST(Text, BlanksAndTabsAtBothEndsAreTrimmed) {
   EXPECT_EQ(trimmed(" \t a b\t "), "a b");
   EXPECT_EQ(trimmed("ab"), "ab");

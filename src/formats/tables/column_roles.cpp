@@ -43,7 +43,7 @@ class RoleFinder {
     return *values;
   }
 
-  void add(Finding finding) { roles_.findings.push_back(std::move(finding)); }
+  void add(TableFinding finding) { roles_.findings.push_back(std::move(finding)); }
 
   std::optional<std::size_t> columnCalled(const std::string& text) const {
     const auto& names = recognised_.names;

@@ -13,7 +13,7 @@ struct ColumnRoles {
   std::vector<std::size_t> variables;  // columns, from 0 on, in the order of the variables
   std::vector<ColumnValues> values;    // of each of those variables
   std::size_t function = 0;
-  std::vector<Finding> findings;  // refusals, or the columns that are left out and why
+  std::vector<TableFinding> findings;  // refusals, or the columns that are left out and why
 };
 
 /// The label of column `index`, counted from 0.

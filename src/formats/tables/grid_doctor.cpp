@@ -103,14 +103,14 @@ std::vector<std::string> leftOutTexts(const GridPoints& points, const FullGrid& 
 }
 
 void diagnoseDoubles(const GridPoints& points, const SortedPoints& sorted, Duplicates duplicates,
-                     std::vector<Finding>& findings) {
+                     std::vector<TableFinding>& findings) {
   if (sorted.count() == points.rows()) return;
   std::uint64_t count = 0;
   const auto first = firstDoublePoints(points, sorted, count);
   findings.push_back(duplicates == Duplicates::Mean ? meansAreTaken(first, count) : pointsAreDouble(first, count));
 }
 
-Finding dependence(const GridPoints& points, const DependentVariable& dependent) {
+TableFinding dependence(const GridPoints& points, const DependentVariable& dependent) {
   const ColumnLabel& column = points.variables[dependent.variable].column;
   if (!dependent.from) return columnFollowsFromOthers(column);
   return columnFollows(column, points.variables[*dependent.from].column);
@@ -118,7 +118,7 @@ Finding dependence(const GridPoints& points, const DependentVariable& dependent)
 
 // Whether the grid is full, or can be made so. Refusals otherwise; the values to keep where there are none.
 std::vector<std::vector<bool>> diagnoseGaps(const GridPoints& points, const SortedPoints& sorted, Gaps gaps,
-                                            std::vector<Finding>& findings) {
+                                            std::vector<TableFinding>& findings) {
   const auto size = gridSize(points);
   if (size && *size == sorted.count()) return allKept(points);
   if (const auto dependent = findDependentVariable(points, sorted)) {

@@ -17,8 +17,8 @@ struct GridFunction {
 
 /// What the points of a table are: a full grid, or what is wrong with them.
 struct GridDiagnosis {
-  std::vector<Finding> findings;     // refusals, and what was done about double and missing points
-  std::optional<GridFunction> grid;  // nothing where something is refused
+  std::vector<TableFinding> findings;  // refusals, and what was done about double and missing points
+  std::optional<GridFunction> grid;    // nothing where something is refused
 };
 
 /// Looks whether the points are a full grid, each of its points once. Nothing is ever interpolated or invented: means

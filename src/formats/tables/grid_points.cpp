@@ -84,6 +84,8 @@ SortedPoints sortPoints(const GridPoints& points) {
     std::sort(sorted.rows.begin(), sorted.rows.end(), [&](std::uint32_t a, std::uint32_t b) {
       return numbers[a] != numbers[b] ? numbers[a] < numbers[b] : a < b;
     });
+  sorted.numbers.reserve(numbers.size());
+  sorted.first.reserve(numbers.size() + 1);
   for (std::size_t n = 0; n < sorted.rows.size(); ++n) {
     const std::uint64_t number = numbers[sorted.rows[n]];
     if (!sorted.numbers.empty() && sorted.numbers.back() == number) continue;

@@ -30,10 +30,10 @@ class TableImport {
   }
 
  private:
-  void add(std::vector<Finding> findings) {
-    for (Finding& finding : findings) outcome_.findings.push_back(std::move(finding));
+  void add(std::vector<TableFinding> findings) {
+    for (TableFinding& finding : findings) outcome_.findings.push_back(std::move(finding));
   }
-  void add(Finding finding) { outcome_.findings.push_back(std::move(finding)); }
+  void add(TableFinding finding) { outcome_.findings.push_back(std::move(finding)); }
   bool isRefused() const { return anyRefusal(outcome_.findings); }
 
   void readTable() {

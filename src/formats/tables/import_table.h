@@ -13,8 +13,8 @@ namespace tavimor {
 /// A problem made of a table, with what was taken, or the reasons why there is none.
 struct ImportOutcome {
   std::optional<Problem> problem;
-  std::vector<Finding> findings;  // refusals, each with its place, or notes
-  TableFormat format;             // as found
+  std::vector<TableFinding> findings;  // refusals, each with its place, or notes
+  TableFormat format;                  // as found
   TableForm form = TableForm::List;
   bool hasHeading = false;
   std::vector<ColumnLabel> columns;    // of a list

@@ -43,7 +43,7 @@ bool isMiscounted(std::size_t entries, std::size_t variables) { return entries >
 
 std::size_t variableCount(const Problem& problem) { return static_cast<std::size_t>(problem.LastVar) + 1; }
 
-void setDegrees(Problem& problem, const std::vector<Long>& degrees, std::vector<Finding>& findings) {
+void setDegrees(Problem& problem, const std::vector<Long>& degrees, std::vector<TableFinding>& findings) {
   if (isMiscounted(degrees.size(), variableCount(problem))) {
     findings.push_back(degreesAreMiscounted(degrees.size(), variableCount(problem)));
     return;
@@ -56,7 +56,7 @@ void setDegrees(Problem& problem, const std::vector<Long>& degrees, std::vector<
   }
 }
 
-void setCentres(Problem& problem, const std::vector<std::string>& centres, std::vector<Finding>& findings) {
+void setCentres(Problem& problem, const std::vector<std::string>& centres, std::vector<TableFinding>& findings) {
   if (isMiscounted(centres.size(), variableCount(problem))) {
     findings.push_back(centresAreMiscounted(centres.size(), variableCount(problem)));
     return;
@@ -100,9 +100,9 @@ Problem problemFromGrid(GridFunction grid, const std::vector<std::string>& names
   return problem;
 }
 
-std::vector<Finding> setDegreesAndCentres(Problem& problem, const std::vector<Long>& degrees,
-                                          const std::vector<std::string>& centres) {
-  std::vector<Finding> findings;
+std::vector<TableFinding> setDegreesAndCentres(Problem& problem, const std::vector<Long>& degrees,
+                                               const std::vector<std::string>& centres) {
+  std::vector<TableFinding> findings;
   setDegrees(problem, degrees, findings);
   setCentres(problem, centres, findings);
   return findings;

@@ -17,8 +17,8 @@ Problem problemFromGrid(GridFunction grid, const std::vector<std::string>& names
 
 /// Sets the degrees and the centres, one for each variable or one for all; none leaves them as they are. A centre is a
 /// number or "*", the middle of the interval. Returns what is refused of them.
-std::vector<Finding> setDegreesAndCentres(Problem& problem, const std::vector<Long>& degrees,
-                                          const std::vector<std::string>& centres);
+std::vector<TableFinding> setDegreesAndCentres(Problem& problem, const std::vector<Long>& degrees,
+                                               const std::vector<std::string>& centres);
 
 /// Names that variables can have, made of those of columns: cut at commas and line ends, blanks around them gone, and
 /// each once. A column without a name gives x, y, z or w by its place.

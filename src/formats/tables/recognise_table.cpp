@@ -102,7 +102,7 @@ std::string readingText(const Reading& reading) {
   const auto row =
       std::find_if(reading.rows.begin(), reading.rows.end(), [](const SampleRow& r) { return r.hasNumber(); });
   std::vector<std::string> cells;
-  for (const std::string& cell : row->cells) cells.push_back(cell.empty() ? "nothing" : excerptText(cell));
+  for (const std::string& cell : row->cells) cells.push_back(cell.empty() ? "nothing" : excerpt(cell));
   return formatText(reading.format) + ", so that line " + std::to_string(row->line) + " is " + listText(cells);
 }
 
@@ -186,8 +186,8 @@ void findForm(const Reading& reading, const ImportOptions& options, RecognisedTa
   findHead(reading, options.heading, recognised);
 }
 
-std::vector<Finding> raggedHead(const Reading& reading, const RecognisedTable& recognised) {
-  std::vector<Finding> findings;
+std::vector<TableFinding> raggedHead(const Reading& reading, const RecognisedTable& recognised) {
+  std::vector<TableFinding> findings;
   for (std::size_t n = 0; recognised.cross != CrossTable::Certain && n < recognised.recordsOfHead; ++n) {
     const SampleRow& row = reading.rows[n];
     if (row.cells.size() != reading.columns)
@@ -221,7 +221,8 @@ bool looksLikeWideText(std::string_view text) {
 
 }  // namespace
 
-std::vector<Finding> recogniseTable(std::string_view text, const ImportOptions& options, RecognisedTable& recognised) {
+std::vector<TableFinding> recogniseTable(std::string_view text, const ImportOptions& options,
+                                         RecognisedTable& recognised) {
   if (looksLikeWideText(text)) return {isNoUtf8()};
   std::vector<Reading> readings;
   for (const TableFormat& format : formatsToTry(options)) readings.push_back(readSample(text, format));

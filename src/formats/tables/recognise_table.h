@@ -32,6 +32,7 @@ struct RecognisedTable {
 /// Every separator and decimal mark that is not told is tried. That reading is taken in which the most records have
 /// one number of columns and the most of their cells are numbers; where two readings are equally good and give
 /// different numbers, both are told and none is taken.
-std::vector<Finding> recogniseTable(std::string_view text, const ImportOptions& options, RecognisedTable& recognised);
+std::vector<TableFinding> recogniseTable(std::string_view text, const ImportOptions& options,
+                                         RecognisedTable& recognised);
 
 }  // namespace tavimor

@@ -31,7 +31,7 @@ struct TableColumn {
 struct TableColumns {
   std::vector<TableColumn> columns;
   LargeList<std::uint32_t> lines;        // of each row, counted from 1
-  std::vector<Finding> ragged;           // lines with another number of columns: they are no rows here
+  std::vector<TableFinding> ragged;      // lines with another number of columns: they are no rows here
   bool commasMayGroupThousands = false;  // every decimal comma stands before three digits, as in 1,234
 
   std::size_t rows() const { return lines.size(); }

@@ -9,8 +9,6 @@ namespace tavimor {
 
 namespace {
 
-constexpr std::size_t kExcerptCharacters = 30;
-
 std::string separatorText(char separator) {
   switch (separator) {
     case ',': return "a comma";
@@ -21,7 +19,7 @@ std::string separatorText(char separator) {
   }
 }
 
-std::string quoted(std::string_view text) { return '"' + excerptText(text) + '"'; }
+std::string quoted(std::string_view text) { return '"' + excerpt(text) + '"'; }
 
 std::string joined(const std::vector<std::string>& items, const std::string& between) {
   std::string text;
@@ -73,16 +71,8 @@ std::string readingsText(const std::vector<std::string>& readings) {
 
 }  // namespace
 
-std::string excerptText(std::string_view text) {
-  const std::string whole = utf8FromBytes(trimmed(text));
-  std::string beginning(firstCharacters(whole, kExcerptCharacters));
-  for (char& c : beginning)
-    if (static_cast<unsigned char>(c) < ' ' || c == '\x7F') c = '?';
-  return beginning;
-}
-
-bool anyRefusal(const std::vector<Finding>& findings) {
-  return std::any_of(findings.begin(), findings.end(), [](const Finding& finding) { return finding.isRefusal(); });
+bool anyRefusal(const std::vector<TableFinding>& findings) {
+  return std::any_of(findings.begin(), findings.end(), [](const TableFinding& finding) { return finding.isRefusal(); });
 }
 
 std::string labelText(const ColumnLabel& column) {
@@ -108,55 +98,55 @@ std::string formatText(const TableFormat& format) {
          " the columns, a " + (format.mark == DecimalMark::Point ? "point" : "comma") + " is the decimal mark";
 }
 
-Finding isNoUtf8() { return {FindingKind::NoUtf8, "the table is no UTF-8 or Latin-1 text: save it as UTF-8", 1}; }
+TableFinding isNoUtf8() { return {FindingKind::NoUtf8, "the table is no UTF-8 or Latin-1 text: save it as UTF-8", 1}; }
 
-Finding isNoTable() {
+TableFinding isNoTable() {
   return {FindingKind::NoTable, "no table: a table has two columns of numbers at least, one of them the function"};
 }
 
-Finding hasNoNumbers(const ColumnLabel& column) {
+TableFinding hasNoNumbers(const ColumnLabel& column) {
   return {FindingKind::NoTable, labelText(column) + " holds no numbers"};
 }
 
-Finding hasTooFewLines() { return {FindingKind::NoTable, "no table: it has fewer than two lines of numbers"}; }
+TableFinding hasTooFewLines() { return {FindingKind::NoTable, "no table: it has fewer than two lines of numbers"}; }
 
-Finding formatIsAmbiguous(const std::vector<std::string>& readings) {
+TableFinding formatIsAmbiguous(const std::vector<std::string>& readings) {
   return {FindingKind::AmbiguousFormat, "the table can be read in two ways: " + readingsText(readings) +
                                             "; please say which with the separator and the decimal mark"};
 }
 
-Finding formIsAmbiguous(const std::vector<std::string>& readings) {
+TableFinding formIsAmbiguous(const std::vector<std::string>& readings) {
   return {FindingKind::AmbiguousForm, "the table can be read in two ways: " + readingsText(readings) +
                                           "; please say whether it is a list or a cross table"};
 }
 
-Finding variablesAreAmbiguous(const std::vector<std::string>& readings) {
+TableFinding variablesAreAmbiguous(const std::vector<std::string>& readings) {
   return {FindingKind::AmbiguousVariables, "the table can be read in two ways: " + readingsText(readings) +
                                                "; please name the columns of the variables and of the function"};
 }
 
-Finding commasMayBeThousands(const TableFormat& format) {
+TableFinding commasMayBeThousands(const TableFormat& format) {
   return formatIsAmbiguous({formatText(format) + ", so that 1,234 is less than 2",
                             formatText({format.separator, DecimalMark::Point}) + ", so that 1,234 is 1234"});
 }
 
-Finding commasDoTwoThings() {
+TableFinding commasDoTwoThings() {
   return {FindingKind::AmbiguousFormat,
           "commas seem to separate the columns and to be decimal marks, too: no number can be told from its neighbour"};
 }
 
-Finding lineIsRagged(long line, std::size_t columns, std::size_t expected) {
+TableFinding lineIsRagged(long line, std::size_t columns, std::size_t expected) {
   return {FindingKind::RaggedLine,
           "line " + std::to_string(line) + " has " + countText(columns, "column", "columns") + ", most lines have " +
               std::to_string(expected),
           line};
 }
 
-Finding moreLinesAreRagged(std::size_t more) {
+TableFinding moreLinesAreRagged(std::size_t more) {
   return {FindingKind::RaggedLine, countText(more, "more line has", "more lines have") + " another number of columns"};
 }
 
-Finding cellIsNoNumber(long line, const ColumnLabel& column, std::string_view cell, DecimalMark mark) {
+TableFinding cellIsNoNumber(long line, const ColumnLabel& column, std::string_view cell, DecimalMark mark) {
   const std::string place = "line " + std::to_string(line) + ", " + labelText(column) + ": ";
   if (trimmed(cell).empty()) return {FindingKind::NoNumber, place + "nothing stands there", line};
   const DecimalMark other = mark == DecimalMark::Point ? DecimalMark::Comma : DecimalMark::Point;
@@ -167,68 +157,68 @@ Finding cellIsNoNumber(long line, const ColumnLabel& column, std::string_view ce
   return {FindingKind::NoNumber, place + text, line};
 }
 
-Finding moreCellsAreNoNumbers(std::size_t more) {
+TableFinding moreCellsAreNoNumbers(std::size_t more) {
   return {FindingKind::NoNumber, countText(more, "more cell holds", "more cells hold") + " no number"};
 }
 
-Finding columnIsUnknown(const std::string& asked, const std::vector<ColumnLabel>& columns) {
+TableFinding columnIsUnknown(const std::string& asked, const std::vector<ColumnLabel>& columns) {
   std::vector<std::string> labels;
   for (const ColumnLabel& column : columns)
     labels.push_back(std::to_string(column.number) + (column.name.empty() ? "" : " (" + quoted(column.name) + ')'));
   return {FindingKind::UnknownColumn, "no column is called " + quoted(asked) + ": the columns are " + listText(labels)};
 }
 
-Finding columnIsTwiceAsked(const ColumnLabel& column) {
+TableFinding columnIsTwiceAsked(const ColumnLabel& column) {
   return {FindingKind::UnknownColumn, labelText(column) + " is named twice"};
 }
 
-Finding columnsAreTooFew() {
+TableFinding columnsAreTooFew() {
   return {FindingKind::UnknownColumn, "a variable and the function are needed: name two columns at least"};
 }
 
-Finding variablesAreTooMany(std::size_t count) {
+TableFinding variablesAreTooMany(std::size_t count) {
   return {FindingKind::TooManyVariables,
           std::to_string(count) +
               " columns can be variables, more than four: please name those of the variables and of the function"};
 }
 
-Finding columnIsConstant(const ColumnLabel& column, double value) {
+TableFinding columnIsConstant(const ColumnLabel& column, double value) {
   return {FindingKind::ConstantColumn,
           labelText(column) + " is always " + numberText(value) + ": a variable needs two values at least"};
 }
 
-Finding columnFollows(const ColumnLabel& column, const ColumnLabel& from) {
+TableFinding columnFollows(const ColumnLabel& column, const ColumnLabel& from) {
   return {FindingKind::DependentColumn, labelText(column) + " follows from " + labelText(from) +
                                             ": where that is the same, so is this, and they cannot both be variables"};
 }
 
-Finding columnFollowsFromOthers(const ColumnLabel& column) {
+TableFinding columnFollowsFromOthers(const ColumnLabel& column) {
   return {FindingKind::DependentColumn,
           labelText(column) + " follows from the other variables: no two points differ in it alone"};
 }
 
-Finding pointsAreDouble(const std::vector<DoublePoint>& first, std::uint64_t count) {
+TableFinding pointsAreDouble(const std::vector<DoublePoint>& first, std::uint64_t count) {
   return {
       FindingKind::DoublePoints,
       countText(count, "point stands", "points stand") + " on more than one line: " + doublePointsText(first, count),
       firstLine(first)};
 }
 
-Finding meansAreTaken(const std::vector<DoublePoint>& first, std::uint64_t count) {
+TableFinding meansAreTaken(const std::vector<DoublePoint>& first, std::uint64_t count) {
   return {FindingKind::MeansTaken,
           "the mean is taken at " + countText(count, "point", "points") + ": " + doublePointsText(first, count),
           firstLine(first)};
 }
 
-Finding pointsAreMissing(const std::vector<std::string>& first, std::uint64_t missing, std::uint64_t all,
-                         const std::string& wayOut) {
+TableFinding pointsAreMissing(const std::vector<std::string>& first, std::uint64_t missing, std::uint64_t all,
+                              const std::string& wayOut) {
   return {FindingKind::MissingPoints, "the grid is not full: " + std::to_string(missing) + " of its " +
                                           std::to_string(all) + " points " + (missing == 1 ? "is" : "are") +
                                           " missing: " + joined(first, "; ") + andMore(first.size(), missing) + "; " +
                                           wayOut};
 }
 
-Finding pointsAreScattered(std::uint64_t points, const std::string& extents) {
+TableFinding pointsAreScattered(std::uint64_t points, const std::string& extents) {
   return {FindingKind::NoFullGrid, "the points are no grid: of the " + extents +
                                        " points that their values make only " + std::to_string(points) +
                                        (points == 1 ? " is" : " are") + " there"};
@@ -241,51 +231,51 @@ std::string wayOutText(const std::vector<std::string>& values, std::uint64_t los
 
 std::string noWayOutText() { return "leaving out values leaves no grid of two values for each variable"; }
 
-Finding gridIsShrunk(const std::vector<std::string>& values, std::uint64_t lostPoints, std::uint64_t points) {
+TableFinding gridIsShrunk(const std::vector<std::string>& values, std::uint64_t lostPoints, std::uint64_t points) {
   return {FindingKind::GridShrunk, listText(values) + (values.size() == 1 ? " is" : " are") + " left out, and with " +
                                        (values.size() == 1 ? "it " : "them ") + std::to_string(lostPoints) +
                                        " of the " + countText(points, "point", "points")};
 }
 
-Finding noFullGridStays() { return {FindingKind::NoFullGrid, "no full grid stays: " + noWayOutText()}; }
+TableFinding noFullGridStays() { return {FindingKind::NoFullGrid, "no full grid stays: " + noWayOutText()}; }
 
-Finding gridIsTooLarge() {
+TableFinding gridIsTooLarge() {
   return {FindingKind::TooLarge, "the grid has more points than a problem can hold, 2147483647"};
 }
 
-Finding degreesAreMiscounted(std::size_t degrees, std::size_t variables) {
+TableFinding degreesAreMiscounted(std::size_t degrees, std::size_t variables) {
   return {FindingKind::BadDegree, countText(degrees, "degree is", "degrees are") + " given for " +
                                       countText(variables, "variable", "variables")};
 }
 
-Finding degreeIsTooHigh(Long degree, const std::string& variable, std::size_t values) {
+TableFinding degreeIsTooHigh(Long degree, const std::string& variable, std::size_t values) {
   return {FindingKind::BadDegree, "the degree of " + variable + " must be 0 or more and below its " +
                                       countText(values, "value", "values") + ", not " + numberText(degree)};
 }
 
-Finding centresAreMiscounted(std::size_t centres, std::size_t variables) {
+TableFinding centresAreMiscounted(std::size_t centres, std::size_t variables) {
   return {FindingKind::BadCentre, countText(centres, "centre is", "centres are") + " given for " +
                                       countText(variables, "variable", "variables")};
 }
 
-Finding centreIsNoNumber(const std::string& text) {
+TableFinding centreIsNoNumber(const std::string& text) {
   return {FindingKind::BadCentre, "the centre " + quoted(text) + " is no number and not *"};
 }
 
-Finding formatIsTaken(const TableFormat& format, bool crossTable) {
+TableFinding formatIsTaken(const TableFormat& format, bool crossTable) {
   return {FindingKind::FormatTaken,
           std::string(crossTable ? "a cross table: " : "a list of points: ") + formatText(format)};
 }
 
-Finding headingIsTaken(long headingLine, long unitsLine, const std::vector<std::string>& units) {
+TableFinding headingIsTaken(long headingLine, long unitsLine, const std::vector<std::string>& units) {
   std::string text = "line " + std::to_string(headingLine) + " is the heading";
   std::vector<std::string> excerpts;
-  for (const std::string& unit : units) excerpts.push_back(excerptText(unit));
+  for (const std::string& unit : units) excerpts.push_back(excerpt(unit));
   if (unitsLine > 0) text += ", line " + std::to_string(unitsLine) + " the units (" + joined(excerpts, ", ") + ')';
   return {FindingKind::HeadingTaken, text, headingLine};
 }
 
-Finding rolesAreTaken(const std::vector<ColumnLabel>& variables, const ColumnLabel& function) {
+TableFinding rolesAreTaken(const std::vector<ColumnLabel>& variables, const ColumnLabel& function) {
   std::vector<std::string> labels;
   for (const ColumnLabel& variable : variables) labels.push_back(labelText(variable));
   return {FindingKind::RolesTaken, listText(labels) +
@@ -293,25 +283,25 @@ Finding rolesAreTaken(const std::vector<ColumnLabel>& variables, const ColumnLab
                                        labelText(function) + " the function"};
 }
 
-Finding columnIsLeftOut(const ColumnLabel& column, const std::string& why) {
+TableFinding columnIsLeftOut(const ColumnLabel& column, const std::string& why) {
   return {FindingKind::ColumnLeftOut, labelText(column) + " is left out: " + why};
 }
 
-Finding valuesAreMerged(const std::string& variable, const std::vector<double>& merged, double kept) {
+TableFinding valuesAreMerged(const std::string& variable, const std::vector<double>& merged, double kept) {
   return {FindingKind::ValuesMerged, "values of " + variable + " that are equal within the tolerance are taken for " +
                                          numberText(kept) + ": " + joined(numberTexts(merged), ", ")};
 }
 
-Finding moreValuesAreMerged(const std::string& variable, std::size_t more) {
+TableFinding moreValuesAreMerged(const std::string& variable, std::size_t more) {
   return {FindingKind::ValuesMerged, countText(more, "more value", "more values") + " of " + variable +
                                          (more == 1 ? " stands" : " stand") + " for others within the tolerance, too"};
 }
 
-Finding nameIsChanged(const ColumnLabel& column, const std::string& variable) {
+TableFinding nameIsChanged(const ColumnLabel& column, const std::string& variable) {
   return {FindingKind::NameChanged, labelText(column) + " becomes the variable " + variable};
 }
 
-Finding variableIsTaken(const std::string& variable, std::size_t values, double lower, double upper, bool spaced) {
+TableFinding variableIsTaken(const std::string& variable, std::size_t values, double lower, double upper, bool spaced) {
   return {FindingKind::VariableTaken, variable + ": " + countText(values, "value", "values") + " from " +
                                           numberText(lower) + " to " + numberText(upper) +
                                           (spaced ? ", equally spaced" : "")};

@@ -43,7 +43,7 @@ enum class FindingKind {
 };
 
 /// A finding with its sentence, the same for the command line and the window.
-struct Finding {
+struct TableFinding {
   FindingKind kind;
   std::string text;
   long line = 0;  // where it stands, counted from 1; 0 for what has no line
@@ -51,7 +51,7 @@ struct Finding {
   bool isRefusal() const { return kind < FindingKind::FormatTaken; }
 };
 
-bool anyRefusal(const std::vector<Finding>& findings);
+bool anyRefusal(const std::vector<TableFinding>& findings);
 
 /// A column as messages name it: its number, counted from 1, and its name, which may be empty.
 struct ColumnLabel {
@@ -65,9 +65,6 @@ constexpr std::size_t kMostNamed = 20;
 /// `column 2 ("T")`, or `column 2`.
 std::string labelText(const ColumnLabel& column);
 
-/// The beginning of a text, fit for one line of a message.
-std::string excerptText(std::string_view text);
-
 /// "a, b and c".
 std::string listText(const std::vector<std::string>& items);
 
@@ -78,26 +75,26 @@ std::string countText(std::uint64_t count, const std::string& one, const std::st
 
 std::string formatText(const TableFormat& format);
 
-Finding isNoUtf8();
-Finding isNoTable();
-Finding hasNoNumbers(const ColumnLabel& column);
-Finding hasTooFewLines();
-Finding formatIsAmbiguous(const std::vector<std::string>& readings);
-Finding formIsAmbiguous(const std::vector<std::string>& readings);
-Finding variablesAreAmbiguous(const std::vector<std::string>& readings);
-Finding commasMayBeThousands(const TableFormat& format);
-Finding commasDoTwoThings();
-Finding lineIsRagged(long line, std::size_t columns, std::size_t expected);
-Finding moreLinesAreRagged(std::size_t more);
-Finding cellIsNoNumber(long line, const ColumnLabel& column, std::string_view cell, DecimalMark mark);
-Finding moreCellsAreNoNumbers(std::size_t more);
-Finding columnIsUnknown(const std::string& asked, const std::vector<ColumnLabel>& columns);
-Finding columnIsTwiceAsked(const ColumnLabel& column);
-Finding columnsAreTooFew();
-Finding variablesAreTooMany(std::size_t count);
-Finding columnIsConstant(const ColumnLabel& column, double value);
-Finding columnFollows(const ColumnLabel& column, const ColumnLabel& from);
-Finding columnFollowsFromOthers(const ColumnLabel& column);
+TableFinding isNoUtf8();
+TableFinding isNoTable();
+TableFinding hasNoNumbers(const ColumnLabel& column);
+TableFinding hasTooFewLines();
+TableFinding formatIsAmbiguous(const std::vector<std::string>& readings);
+TableFinding formIsAmbiguous(const std::vector<std::string>& readings);
+TableFinding variablesAreAmbiguous(const std::vector<std::string>& readings);
+TableFinding commasMayBeThousands(const TableFormat& format);
+TableFinding commasDoTwoThings();
+TableFinding lineIsRagged(long line, std::size_t columns, std::size_t expected);
+TableFinding moreLinesAreRagged(std::size_t more);
+TableFinding cellIsNoNumber(long line, const ColumnLabel& column, std::string_view cell, DecimalMark mark);
+TableFinding moreCellsAreNoNumbers(std::size_t more);
+TableFinding columnIsUnknown(const std::string& asked, const std::vector<ColumnLabel>& columns);
+TableFinding columnIsTwiceAsked(const ColumnLabel& column);
+TableFinding columnsAreTooFew();
+TableFinding variablesAreTooMany(std::size_t count);
+TableFinding columnIsConstant(const ColumnLabel& column, double value);
+TableFinding columnFollows(const ColumnLabel& column, const ColumnLabel& from);
+TableFinding columnFollowsFromOthers(const ColumnLabel& column);
 
 /// A point that more than one line gives.
 struct DoublePoint {
@@ -107,31 +104,31 @@ struct DoublePoint {
   std::uint64_t lineCount = 0;  // all of them
 };
 
-Finding pointsAreDouble(const std::vector<DoublePoint>& first, std::uint64_t count);
-Finding meansAreTaken(const std::vector<DoublePoint>& first, std::uint64_t count);
+TableFinding pointsAreDouble(const std::vector<DoublePoint>& first, std::uint64_t count);
+TableFinding meansAreTaken(const std::vector<DoublePoint>& first, std::uint64_t count);
 
 /// Values of one variable: "T=10".
-Finding pointsAreMissing(const std::vector<std::string>& first, std::uint64_t missing, std::uint64_t all,
-                         const std::string& wayOut);
-Finding pointsAreScattered(std::uint64_t points, const std::string& extents);
+TableFinding pointsAreMissing(const std::vector<std::string>& first, std::uint64_t missing, std::uint64_t all,
+                              const std::string& wayOut);
+TableFinding pointsAreScattered(std::uint64_t points, const std::string& extents);
 std::string wayOutText(const std::vector<std::string>& values, std::uint64_t lostPoints, std::uint64_t points);
 std::string noWayOutText();
-Finding gridIsShrunk(const std::vector<std::string>& values, std::uint64_t lostPoints, std::uint64_t points);
-Finding noFullGridStays();
-Finding gridIsTooLarge();
+TableFinding gridIsShrunk(const std::vector<std::string>& values, std::uint64_t lostPoints, std::uint64_t points);
+TableFinding noFullGridStays();
+TableFinding gridIsTooLarge();
 
-Finding degreesAreMiscounted(std::size_t degrees, std::size_t variables);
-Finding degreeIsTooHigh(Long degree, const std::string& variable, std::size_t values);
-Finding centresAreMiscounted(std::size_t centres, std::size_t variables);
-Finding centreIsNoNumber(const std::string& text);
+TableFinding degreesAreMiscounted(std::size_t degrees, std::size_t variables);
+TableFinding degreeIsTooHigh(Long degree, const std::string& variable, std::size_t values);
+TableFinding centresAreMiscounted(std::size_t centres, std::size_t variables);
+TableFinding centreIsNoNumber(const std::string& text);
 
-Finding formatIsTaken(const TableFormat& format, bool crossTable);
-Finding headingIsTaken(long headingLine, long unitsLine, const std::vector<std::string>& units);
-Finding rolesAreTaken(const std::vector<ColumnLabel>& variables, const ColumnLabel& function);
-Finding columnIsLeftOut(const ColumnLabel& column, const std::string& why);
-Finding valuesAreMerged(const std::string& variable, const std::vector<double>& merged, double kept);
-Finding moreValuesAreMerged(const std::string& variable, std::size_t more);
-Finding nameIsChanged(const ColumnLabel& column, const std::string& variable);
-Finding variableIsTaken(const std::string& variable, std::size_t values, double lower, double upper, bool spaced);
+TableFinding formatIsTaken(const TableFormat& format, bool crossTable);
+TableFinding headingIsTaken(long headingLine, long unitsLine, const std::vector<std::string>& units);
+TableFinding rolesAreTaken(const std::vector<ColumnLabel>& variables, const ColumnLabel& function);
+TableFinding columnIsLeftOut(const ColumnLabel& column, const std::string& why);
+TableFinding valuesAreMerged(const std::string& variable, const std::vector<double>& merged, double kept);
+TableFinding moreValuesAreMerged(const std::string& variable, std::size_t more);
+TableFinding nameIsChanged(const ColumnLabel& column, const std::string& variable);
+TableFinding variableIsTaken(const std::string& variable, std::size_t values, double lower, double upper, bool spaced);
 
 }  // namespace tavimor

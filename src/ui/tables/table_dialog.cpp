@@ -122,8 +122,8 @@ void TableDialog::showVariables() {
 }
 
 // Refusals first, the typed degrees and centres among them.
-std::vector<Finding> TableDialog::findings() {
-  std::vector<Finding> all;
+std::vector<TableFinding> TableDialog::findings() {
+  std::vector<TableFinding> all;
   if (outcome_.problem) {
     std::vector<Long> degrees;
     std::vector<std::string> centres;
@@ -134,19 +134,19 @@ std::vector<Finding> TableDialog::findings() {
     all = setDegreesAndCentres(*outcome_.problem, degrees, centres);
   }
   for (const bool refusals : {true, false})
-    for (const Finding& finding : outcome_.findings)
+    for (const TableFinding& finding : outcome_.findings)
       if (finding.isRefusal() == refusals) all.push_back(finding);
   return all;
 }
 
 void TableDialog::showFindings() {
-  const std::vector<Finding> all = findings();
+  const std::vector<TableFinding> all = findings();
   lstFindings->clear();
-  for (const Finding& finding : all) addFinding(finding);
+  for (const TableFinding& finding : all) addFinding(finding);
   cmdCreate->setEnabled(outcome_.problem && !anyRefusal(all));
 }
 
-void TableDialog::addFinding(const Finding& finding) {
+void TableDialog::addFinding(const TableFinding& finding) {
   const auto sign = finding.isRefusal() ? QStyle::SP_MessageBoxWarning : QStyle::SP_MessageBoxInformation;
   auto* item = new QListWidgetItem(style()->standardIcon(sign), QString::fromStdString(finding.text), lstFindings);
   item->setData(Qt::UserRole, QVariant::fromValue(finding.line));

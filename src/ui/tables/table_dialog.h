@@ -36,8 +36,8 @@ class TableDialog : public QDialog, private TableDialogControls {
   void showFormat();
   void showVariables();
   void showFindings();
-  std::vector<Finding> findings();
-  void addFinding(const Finding& finding);
+  std::vector<TableFinding> findings();
+  void addFinding(const TableFinding& finding);
 
   std::string_view text_;
   ImportOptions told_;  // what the user has chosen; everything else is found

@@ -214,7 +214,7 @@ INSTANTIATE_TEST_SUITE_P(Tables, Broken, testing::ValuesIn(brokenTables()),
 TEST(BrokenTables, FindingsKnowTheirLine) {
   const ImportOutcome outcome = importTable("x,f\n1,2\n2,abc\n3,4\n", {});
   const auto found = std::find_if(outcome.findings.begin(), outcome.findings.end(),
-                                  [](const Finding& finding) { return finding.isRefusal(); });
+                                  [](const TableFinding& finding) { return finding.isRefusal(); });
   ASSERT_NE(found, outcome.findings.end());
   EXPECT_EQ(found->line, 3);
 }

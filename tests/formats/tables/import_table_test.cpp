@@ -137,7 +137,7 @@ TEST(ImportTable, TheCornerNamesTheVariablesOfACrossTable) {
 TEST(ImportTable, SaysWhatWasTaken) {
   const ImportOutcome outcome = importTable("p;T;note;f\nbar;K;;m\n0;1,5;a;3\n0;2;b;4\n1;1,5;c;5\n1;2;d;6\n", {});
   std::vector<std::string> texts;
-  for (const Finding& finding : outcome.findings) texts.push_back(finding.text);
+  for (const TableFinding& finding : outcome.findings) texts.push_back(finding.text);
   EXPECT_THAT(texts,
               ElementsAre("a list of points: a semicolon separates the columns, a comma is the decimal mark",
                           "line 1 is the heading, line 2 the units (bar, K, , m)",

@@ -120,7 +120,7 @@ TEST_F(TableDialogTest, ShowsWhatWasFound) {
 TEST_F(TableDialogTest, SaysTheSameWordsAsTheCommandLine) {
   const std::string text = "x,y,f\n0,0,1\n0,1,2\n1,0,3\n2,0,4\n2,1,5\n";
   std::string wanted, notes;
-  for (const Finding& finding : importTable(text, {}).findings)
+  for (const TableFinding& finding : importTable(text, {}).findings)
     (finding.isRefusal() ? wanted : notes) += finding.text + '\n';
   wanted += notes;
   paste(QString::fromStdString(text), [&](QDialog& dialog) {
