@@ -8,8 +8,6 @@ namespace tavimor {
 
 namespace {
 
-constexpr double kLeverageOfOne = 1e-20;  // 1 - h below this: h is 1 as far as can be told
-
 // Puts the points together in their order.
 class Collector {
  public:

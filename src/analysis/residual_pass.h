@@ -6,6 +6,9 @@
 
 namespace tavimor {
 
+/// 1 - leverage below this: the leverage is 1 as far as can be told.
+inline constexpr double kLeverageOfOne = 1e-20;
+
 /// The residual of a grid point times 2^-exponent of the decomposition, its leverage, and the point.
 using VisitResidual = std::function<void(const Pair& residual, const Pair& leverage, const PerVariable<Long>& at)>;
 

@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "analysis/distributions.h"
+#include "analysis/figures.h"
 #include "analysis/long_axis.h"
 #include "analysis/statistic_texts.h"
 #include "support/exact_fit.h"
@@ -110,6 +111,49 @@ TEST_F(SmallProblem, HasTheExactPressAndLargestResidual) {
   EXPECT_EQ(exact.function[at] - estimate(solution.coefficients, at), largest);
   const mpq_class tss = solution.sumOfSquares - solution.sum * solution.sum / 12;
   expectNear(*predictedRSquared(fit, residuals), 1 - press / tss);
+}
+
+TEST_F(SmallProblem, HasTheExactLeverageAndStudentisedResidualOfEachPoint) {
+  const PointFigures figures = pointFigures(secondOpinionOn(model), model);
+  for (std::size_t n = 0; n < influence.size(); ++n) {
+    const mpq_class residual = exact.function[n] - estimate(solution.coefficients, n);
+    const mpq_class leverage = estimate(influence[n].coefficients, n);
+    expectNear(figures.leverage.data()[n], leverage);
+    const double studentised = figures.studentised.data()[n];
+    EXPECT_EQ(std::signbit(studentised), residual < 0);
+    expectNear(studentised * studentised, residual * residual / (solution.residualSum / 6 * (1 - leverage)));
+  }
+}
+
+TEST_F(SmallProblem, HasFiguresOfWhatIsListed) {
+  const SecondOpinion opinion = secondOpinionOn(model);
+  Fit listed = listedForm(opinion.precise);
+  listed.Coef.data()[2] *= 1.0001;
+  const FitFigures figures = fitFigures(opinion, model, listed);
+  EXPECT_EQ(figures.doubt, "");
+  EXPECT_EQ(figures.worstDigits, 3);
+  EXPECT_EQ(figures.digits, (std::vector<std::optional<Long>>{15, 15, 3, 15, 15, 15}));
+  for (std::size_t n = 0; n < fit.termCount(); ++n)
+    expectNear(*figures.standardErrors[n] * *figures.standardErrors[n], squaredSpread(n) * solution.residualSum / 6);
+}
+
+TEST(FitFigures, OfDataThatDetermineNoFitAreADoubt) {
+  const Dimension model = test::problem({{"x", {0, 1, 1}, 2, 0}});
+  Fit listed;
+  listed.Coef.redim({2, 0, 0, 0});
+  const FitFigures figures = fitFigures(secondOpinionOn(model), model, listed);
+  EXPECT_EQ(figures.doubt, "variable \"x\" has 2 different values, and its degree is 2");
+  EXPECT_FALSE(figures.areKnown());
+}
+
+TEST(PointFigures, AreNotDefinedWhereTheyHaveNoScale) {
+  Dimension model = test::problem({{"x", {0, 1, 2}, 2, 0}});
+  test::tabulate(model, [](double x, double, double, double) { return std::exp(x); });
+  const PointFigures figures = pointFigures(secondOpinionOn(model), model);
+  for (std::size_t n = 0; n < 3; ++n) {
+    EXPECT_NEAR(figures.leverage.data()[n], 1.0, 1e-15);
+    EXPECT_TRUE(std::isnan(figures.studentised.data()[n]));
+  }
 }
 
 TEST_F(SmallProblem, HasTheExactEstimateAndItsStandardErrorAtAPoint) {
