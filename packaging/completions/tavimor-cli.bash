@@ -64,8 +64,8 @@ _tavimor_cli() {
       import)
         options='--columns --degree --centre --separator --decimal-comma --header --form --tolerance --duplicates --gaps --help'
         ;;
-      export) options='--to --output --name --within --precise --checks --nan-outside --help' ;;
-      residuals) options='--output --help' ;;
+      export) options='--to --output --name --within --precise --checks --nan-outside --no-check --help' ;;
+      residuals) options='--output --no-check --help' ;;
     esac
     mapfile -t COMPREPLY < <(compgen -W "$options" -- "$word")
   elif [[ $command = import ]]; then

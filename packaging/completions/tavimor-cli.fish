@@ -55,6 +55,7 @@ complete -c tavimor-cli -n '__fish_seen_subcommand_from export' -l within -x -d 
 complete -c tavimor-cli -n '__fish_seen_subcommand_from export' -l precise -d 'Take the exact solution'
 complete -c tavimor-cli -n '__fish_seen_subcommand_from export' -l checks -x -d 'The number of check points'
 complete -c tavimor-cli -n '__fish_seen_subcommand_from export' -l nan-outside -d 'NaN outside the intervals'
+complete -c tavimor-cli -n '__fish_seen_subcommand_from export residuals' -l no-check -d 'Leave out what a second opinion tells'
 complete -c tavimor-cli -n '__fish_seen_subcommand_from fit show eval analyse degrees report copy export residuals; and __tavimor_cli_position 0' \
     -a '(__tavimor_cli_problems)'
 complete -c tavimor-cli -n '__fish_seen_subcommand_from copy; and __tavimor_cli_position 1' -F

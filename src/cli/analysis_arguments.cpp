@@ -29,6 +29,8 @@ void addAnalysisOptions(CLI::App& app, CommandOptions& options) {
   addChanges(fit, options);
   fit.add_flag("--precise", options.precise, "list and save the exact least-squares solution");
   fit.add_flag("--no-check", options.noCheck, "do not look how many digits are right");
+  app.get_subcommand("export")->add_flag("--no-check", options.noCheck, "leave right digits and standard errors out");
+  app.get_subcommand("residuals")->add_flag("--no-check", options.noCheck, "leave leverages and studentised out");
 
   CLI::App& analyse = *app.get_subcommand("analyse");
   addChanges(analyse, options);

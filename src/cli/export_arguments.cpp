@@ -8,8 +8,6 @@ namespace tavimor {
 
 namespace {
 
-constexpr Long kMostChecks = 100000;
-
 std::string formatNames() {
   std::string names;
   for (const ExportFormat& format : exportFormats()) names += (names.empty() ? "" : ", ") + std::string(format.name);

@@ -1,7 +1,10 @@
 #include "cli/export_command.h"
 
+#include "analysis/figures.h"
+#include "cli/fit_check.h"
 #include "cli/fitting.h"
 #include "cli/output.h"
+#include "cli/problem_files.h"
 #include "formats/formulas/export_formats.h"
 #include "formats/formulas/make_formula.h"
 #include "formats/formulas/residual_table.h"
@@ -27,30 +30,51 @@ void deliver(const std::string& bytes, const std::string& output) {
 }
 
 // False where there is no formula, which the user has been told then.
-bool provideFormula(OpenedProblem& opened, const std::string& path, const ExportArguments& arguments) {
-  if (!(arguments.precise ? providePreciseFit(opened, path) : provideFit(opened, path))) return false;
+bool hasFormulaToExport(const OpenedProblem& opened, const std::string& path) {
   if (hasFormula(opened.fit)) return true;
   complain(path, "no formula: a coefficient of the fit is no number");
   return false;
 }
 
+bool provideFormula(OpenedProblem& opened, const std::string& path, const ExportArguments& arguments, Check check,
+                    FormulaOptions& options) {
+  if (!arguments.precise && !provideFit(opened, path)) return false;
+  if (arguments.precise || check == Check::Yes) {
+    const SecondOpinion opinion = opinionShowingProgress(opened);
+    if (arguments.precise && !providePreciseFit(opened, opinion, path)) return false;
+    options.figures = fitFigures(opinion, opened.problem, opened.fit);
+    if (const auto warning = warningOf(opinion, opened, path)) complain(path, *warning);
+  }
+  return hasFormulaToExport(opened, path);
+}
+
+std::optional<PointFigures> figuresOfPoints(OpenedProblem& opened, const std::string& path) {
+  const SecondOpinion opinion = opinionShowingProgress(opened);
+  if (!opinion.isExact()) complain(path, "no leverages: " + reasonText(opinion.precise.finding, opened.problem));
+  return pointFigures(opinion, opened.problem);
+}
+
 }  // namespace
 
-ExitCode exportCommand(const std::string& problem, const std::string& output, const ExportArguments& arguments) {
+ExitCode exportCommand(const std::string& problem, const std::string& output, const ExportArguments& arguments,
+                       Check check) {
   const ExportFormat& format = *exportFormat(arguments.format);
   FormulaOptions options = arguments.options;
   requireFitting(format, output, arguments);
   if (options.name.empty()) options.name = formulaNameOf(problem);
-  OpenedProblem opened = openProblem(problem);
-  if (format.kind != ExportKind::Problem && !provideFormula(opened, problem, arguments)) return ExitCode::NoFit;
+  OpenedProblem opened = openShowingProgress(problem);
+  if (format.kind != ExportKind::Problem && !provideFormula(opened, problem, arguments, check, options))
+    return ExitCode::NoFit;
   deliver(format.write(opened.problem, opened.fit, options), output);
   return ExitCode::Success;
 }
 
-ExitCode residualsCommand(const std::string& problem, const std::string& output) {
-  OpenedProblem opened = openProblem(problem);
+ExitCode residualsCommand(const std::string& problem, const std::string& output, Check check) {
+  OpenedProblem opened = openShowingProgress(problem);
   if (!provideFit(opened, problem)) return ExitCode::NoFit;
-  deliver(residualTable(opened.problem, opened.fit), output);
+  std::optional<PointFigures> figures;
+  if (check == Check::Yes) figures = figuresOfPoints(opened, problem);
+  deliver(residualTable(opened.problem, opened.fit, figures), output);
   return ExitCode::Success;
 }
 

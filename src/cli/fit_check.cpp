@@ -1,8 +1,6 @@
 #include "cli/fit_check.h"
 
 #include "analysis/right_digits.h"
-#include "analysis/second_opinion.h"
-#include "cli/problem_changes.h"
 
 namespace tavimor {
 
@@ -19,8 +17,8 @@ std::string fewDigitsText(double digits) {
 
 }  // namespace
 
-std::optional<std::string> warningOf(const OpenedProblem& opened, const std::string& path) {
-  const SecondOpinion opinion = secondOpinionOn(opened.problem, Reading::AsTyped, centresFromFields(opened.fields));
+std::optional<std::string> warningOf(const SecondOpinion& opinion, const OpenedProblem& opened,
+                                     const std::string& path) {
   const Finding& finding = opinion.precise.finding;
   if (finding.verdict == Verdict::NotDetermined)
     return "the data determine no fit: " + reasonText(finding, opened.problem) + whereMoreIsTold(path);

@@ -22,13 +22,13 @@ void printOutcome(const OpenedProblem& opened, const FitOutcome& outcome, const 
 }
 
 // A degree that is too high has been told.
-void checkFit(const OpenedProblem& opened, const FitOutcome& outcome, const std::string& path) {
+void checkFit(OpenedProblem& opened, const FitOutcome& outcome, const std::string& path) {
   if (outcome.end != FitEnd::Found && outcome.end != FitEnd::Singular) return;
-  if (const auto warning = warningOf(opened, path)) complain(path, *warning);
+  if (const auto warning = warningOf(opinionShowingProgress(opened), opened, path)) complain(path, *warning);
 }
 
 ExitCode fitPrecisely(OpenedProblem& opened, const std::string& path, const std::string& output) {
-  if (!providePreciseFit(opened, path)) return ExitCode::NoFit;
+  if (!providePreciseFit(opened, opinionShowingProgress(opened), path)) return ExitCode::NoFit;
   printLine("PRECISE: the exact least-squares solution, not that of the fixed order of arithmetic.");
   ShowResults(opened.problem, opened.fit, printLine);
   finishOutput();

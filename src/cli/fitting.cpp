@@ -2,7 +2,6 @@
 
 #include <utility>
 
-#include "analysis/second_opinion.h"
 #include "cli/output.h"
 #include "cli/problem_changes.h"
 #include "cli/progress_bar.h"
@@ -35,9 +34,15 @@ ExitCode endOfResults(const std::string& problem, const Fit& fit) {
   return ExitCode::NoFit;
 }
 
-bool providePreciseFit(OpenedProblem& opened, const std::string& path) {
+SecondOpinion opinionShowingProgress(OpenedProblem& opened) {
   CaptureSpecs(opened.problem, opened.fields);
-  const SecondOpinion opinion = secondOpinionOn(opened.problem, Reading::AsTyped, centresFromFields(opened.fields));
+  ProgressBar bar;
+  AnalysisOptions options;
+  options.progress = [&](double share) { bar.show(share); };
+  return secondOpinionOn(opened.problem, Reading::AsTyped, centresFromFields(opened.fields), options);
+}
+
+bool providePreciseFit(OpenedProblem& opened, const SecondOpinion& opinion, const std::string& path) {
   if (opinion.isExact())
     opened.fit = listedForm(opinion.precise);
   else

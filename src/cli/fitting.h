@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "analysis/second_opinion.h"
 #include "cli/exit_code.h"
 #include "engine/fit.h"
 #include "formats/open_problem.h"
@@ -20,8 +21,11 @@ bool provideFit(OpenedProblem& opened, const std::string& path);
 /// them is no finite number, else with Success.
 ExitCode endOfResults(const std::string& problem, const Fit& fit);
 
-/// The exact least-squares solution takes the place of the problem's fit. False where there is none, which the user has
-/// been told then.
-bool providePreciseFit(OpenedProblem& opened, const std::string& path);
+/// A second opinion on the problem, whose fields it captures, with a progress bar.
+SecondOpinion opinionShowingProgress(OpenedProblem& opened);
+
+/// The exact least-squares solution of that opinion takes the place of the problem's fit. False where there is none,
+/// which the user has been told then.
+bool providePreciseFit(OpenedProblem& opened, const SecondOpinion& opinion, const std::string& path);
 
 }  // namespace tavimor

@@ -15,6 +15,8 @@ namespace {
 
 using namespace tavimor;
 
+Check checkOf(const Arguments& arguments) { return arguments.options.noCheck ? Check::No : Check::Yes; }
+
 ExitCode run(const Arguments& arguments) {
   if (arguments.command == "fit") return fitCommand(arguments.problem, arguments.output, arguments.options);
   if (arguments.command == "show") return showCommand(arguments.problem);
@@ -23,8 +25,10 @@ ExitCode run(const Arguments& arguments) {
   if (arguments.command == "degrees") return degreesCommand(arguments.problem, arguments.options);
   if (arguments.command == "report") return reportCommand(arguments.problem);
   if (arguments.command == "import") return importCommand(arguments.problem, arguments.output, arguments.importing);
-  if (arguments.command == "export") return exportCommand(arguments.problem, arguments.output, arguments.exporting);
-  if (arguments.command == "residuals") return residualsCommand(arguments.problem, arguments.output);
+  if (arguments.command == "export")
+    return exportCommand(arguments.problem, arguments.output, arguments.exporting, checkOf(arguments));
+  if (arguments.command == "residuals")
+    return residualsCommand(arguments.problem, arguments.output, checkOf(arguments));
   return copyCommand(arguments.problem, arguments.output);
 }
 

@@ -61,6 +61,27 @@ class LiveFormula {
   std::string coefficients_;
 };
 
+void headFigures(const Sheets& sheets, const Formula& formula, lxw_col_t coefficient) {
+  if (!formula.figures.areKnown()) return;
+  const std::string when = formula.rounded ? ", before rounding" : "";
+  head(sheets, sheets.coefficients, static_cast<lxw_col_t>(coefficient + 1), "right digits" + when);
+  head(sheets, sheets.coefficients, static_cast<lxw_col_t>(coefficient + 2), "standard error" + when);
+}
+
+void writeFigures(const Sheets& sheets, const Formula& formula, const Term& term, lxw_row_t row,
+                  lxw_col_t coefficient) {
+  const FitFigures& figures = formula.figures;
+  if (!figures.areKnown()) return;
+  const auto column = static_cast<lxw_col_t>(coefficient + 1);
+  if (figures.digits[term.number])
+    worksheet_write_number(sheets.coefficients, row, column, *figures.digits[term.number], nullptr);
+  else
+    worksheet_write_string(sheets.coefficients, row, column, "noise", nullptr);
+  if (figures.standardErrors[term.number])
+    worksheet_write_number(sheets.coefficients, row, static_cast<lxw_col_t>(column + 1),
+                           *figures.standardErrors[term.number], nullptr);
+}
+
 double valueOfFormula(const Formula& formula, const PerVariable<double>& x) {
   PerVariable<double> t{};
   for (Long k = 0; k <= formula.last(); ++k) t[k] = x[k] - formula.variables[k].centre;
@@ -73,11 +94,13 @@ void fillCoefficients(const Sheets& sheets, const Formula& formula) {
   headVariables(sheets, sheets.coefficients, formula);
   const auto behind = static_cast<lxw_col_t>(formula.last() + 1);
   head(sheets, sheets.coefficients, behind, "coefficient");
+  headFigures(sheets, formula, behind);
   lxw_row_t row = 1;
   for (const Term& term : termsOf(formula)) {
     for (Long k = 0; k <= formula.last(); ++k)
       worksheet_write_number(sheets.coefficients, row, static_cast<lxw_col_t>(k), term.powers[k], nullptr);
     worksheet_write_number(sheets.coefficients, row, behind, term.coefficient, nullptr);
+    writeFigures(sheets, formula, term, row, behind);
     ++row;
   }
 }
@@ -122,6 +145,10 @@ void fillStatistics(const Sheets& sheets, const Formula& formula) {
   write("sum of squared residuals", figures.SumRes2);
   write("average of the given values", figures.AvgGiven);
   write("average of the estimates", figures.AvgEstimated);
+  if (formula.figures.areKnown()) write("right digits, worst coefficient", formula.figures.worstDigits);
+  if (!formula.figures.doubt.empty())
+    worksheet_write_string(sheets.statistics, row++, 0, ("The data determine no fit: " + formula.figures.doubt).c_str(),
+                           nullptr);
   if (!formula.rounded) return;
   write("rounded: within", formula.rounded->within);
   write("rounded: bound", formula.rounded->bound);

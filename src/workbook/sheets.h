@@ -15,7 +15,8 @@ struct Sheets {
   lxw_format* bold;
 };
 
-/// Powers in the variables' columns, the coefficient behind; the first row names them.
+/// Powers in the variables' columns, behind them the coefficient, its right digits and its standard error, as far as
+/// those are known; the first row names them.
 void fillCoefficients(const Sheets& sheets, const Formula& formula);
 
 /// A row for each variable: name, value, limits, centre; below them the live value of the formula.

@@ -100,6 +100,27 @@ TEST_F(ExportCommand, TakesTheExactSolutionWhereThatIsAskedFor) {
   EXPECT_THAT(formula, HasSubstr(numberText(std::abs(constant)).substr(0, 13)));
 }
 
+TEST_F(ExportCommand, TellsHowManyDigitsAreRight) {
+  const std::string filip = test::examplePath("nist/filip");
+  const std::string digits = "Right digits of the coefficients, of 15: ";
+  EXPECT_THAT(exported({"--to", "r"}).out, HasSubstr("# " + digits + "15 in the worst"));
+  EXPECT_THAT(exported({"--to", "r", "--no-check"}).out, testing::Not(HasSubstr(digits)));
+  EXPECT_THAT(tavimorCli({"export", filip, "--to", "c"}).out, HasSubstr("; in each (- for noise):\n//   "));
+  tavimorCli({"fit", filip, "--centre", "0", "--no-check", "-o", folder / "far"});
+  EXPECT_THAT(tavimorCli({"export", folder / "far", "--to", "c"}).err, HasSubstr("no digit of the worst coefficient"));
+  EXPECT_THAT(tavimorCli({"export", filip, "--to", "c", "--precise"}).out,
+              HasSubstr("// " + digits + "15 in the worst"));
+}
+
+TEST_F(ExportCommand, TellsThatTheDataDetermineNoFit) {
+  const std::string problem =
+      writePair("doubt", test::fileText({" 0 ", R"("x",0,1,0,#TRUE#,0,1)", "#TRUE#", " 1 ", " 2 "}),
+                test::fileText({" 0 ", " 1 ", "#FALSE#", " 1 ", " 1 ", " 5 ", " 6 ", "2,1,1,1,1,1"}));
+  const Outcome outcome = tavimorCli({"export", problem, "--to", "text"});
+  EXPECT_THAT(outcome.out, HasSubstr("The data determine no fit: variable \"x\" has 1 different value"));
+  EXPECT_THAT(outcome.err, HasSubstr("the data determine no fit"));
+}
+
 TEST_F(ExportCommand, LeavesTheOldFileWhereItCannotWrite) {
   const Outcome outcome = exported({"--to", "c", "-o", folder / "nowhere/out.c"});
   EXPECT_EQ(outcome.exitCode, 1);
@@ -115,13 +136,34 @@ TEST_F(ResidualsCommand, PrintsATableOfEveryGridPoint) {
                                 " 5 ", " 7.5 "}));
   const Outcome outcome = tavimorCli({"residuals", problem});
   EXPECT_EQ(outcome.exitCode, 0);
-  EXPECT_EQ(outcome.out, test::text({"\"x\",\"a \"\"\"\"b\"\"\"\"\",given,estimated,residual", "0.0,0.0,1.0,2.0,-1.0",
-                                     "0.0,2.0,3.0,2.0,1.0", "1.0,0.0,5.0,6.25,-1.25", "1.0,2.0,7.5,6.25,1.25"}));
+  const double scale = std::sqrt(5.125 / 2 * 0.5);  // s^2 (1 - h): four points, two terms, the sum of squares 5.125
+  EXPECT_THAT(outcome.out, StartsWith("\"x\",\"a \"\"\"\"b\"\"\"\"\",given,estimated,residual,leverage,studentised\n"));
+  EXPECT_THAT(outcome.out, HasSubstr("\n0.0,0.0,1.0,2.0,-1.0,0.5,-" + numberText(1 / scale).substr(0, 13)));
+  EXPECT_THAT(outcome.out, HasSubstr("\n1.0,2.0,7.5,6.25,1.25,0.5," + numberText(1.25 / scale).substr(0, 13)));
+  EXPECT_EQ(tavimorCli({"residuals", problem, "--no-check"}).out,
+            test::text({"\"x\",\"a \"\"\"\"b\"\"\"\"\",given,estimated,residual", "0.0,0.0,1.0,2.0,-1.0",
+                        "0.0,2.0,3.0,2.0,1.0", "1.0,0.0,5.0,6.25,-1.25", "1.0,2.0,7.5,6.25,1.25"}));
 }
 
 TEST_F(ResidualsCommand, WritesAFile) {
   EXPECT_EQ(tavimorCli({"residuals", line(), "-o", folder / "out.csv"}).out, "");
-  EXPECT_THAT(readBytes(folder / "out.csv"), StartsWith("\"x\",given,estimated,residual\n"));
+  EXPECT_THAT(readBytes(folder / "out.csv"), StartsWith("\"x\",given,estimated,residual,leverage,studentised\n"));
+}
+
+// A straight line has no residuals, and so no scale for them.
+TEST_F(ResidualsCommand, LeavesWhatIsNotDefinedEmpty) {
+  EXPECT_THAT(tavimorCli({"residuals", line()}).out, testing::EndsWith(",3.0,3.0,0.0,0.3333333333333333,\n"
+                                                                       "1.0,5.0,5.0,0.0,0.8333333333333334,\n"));
+}
+
+TEST_F(ResidualsCommand, SaysWhyThereAreNoLeverages) {
+  const std::string problem =
+      writePair("doubt", test::fileText({" 0 ", R"("x",0,1,0,#TRUE#,0,1)", "#TRUE#", " 1 ", " 2 "}),
+                test::fileText({" 0 ", " 1 ", "#FALSE#", " 1 ", " 1 ", " 5 ", " 6 ", "2,1,1,1,1,1"}));
+  const Outcome outcome = tavimorCli({"residuals", problem});
+  EXPECT_EQ(outcome.exitCode, 0);
+  EXPECT_THAT(outcome.out, testing::EndsWith("1.0,6.0,3.0,3.0,,\n"));
+  EXPECT_THAT(outcome.err, HasSubstr("no leverages: variable \"x\" has 1 different value"));
 }
 
 }  // namespace

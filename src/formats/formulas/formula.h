@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "model/fit.h"
+#include "model/fit_figures.h"
 #include "model/problem.h"
 
 namespace tavimor {
@@ -12,11 +13,15 @@ namespace tavimor {
 /// What a formula gives where a variable is outside its interval.
 enum class Outside { Extrapolated, NotANumber };
 
+/// The most check points that a formula carries.
+inline constexpr Long kMostChecks = 100000;
+
 struct FormulaOptions {
   std::string name;              // of the function, as asked for: each language makes it legal
   std::optional<double> within;  // round the coefficients so that the formula stays this near to the fit
   Long checks = 50;              // the number of check points
   Outside outside = Outside::Extrapolated;
+  FitFigures figures = {};  // what is known of the fit beyond its results
 };
 
 /// A variable of a formula with the interval of the data: from the least of its values to the greatest, and for
@@ -50,6 +55,7 @@ struct Formula {
   std::vector<FormulaVariable> variables;
   Table4 Coef;  // Coef(j0,j1,j2,j3) multiplies the product of (x_k - centre_k)^jk
   Statistics statistics;
+  FitFigures figures;  // of the fit, before any rounding
   Long gridPoints = 0;
   Outside outside = Outside::Extrapolated;
   std::optional<RoundedBy> rounded;

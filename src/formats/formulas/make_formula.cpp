@@ -38,6 +38,7 @@ Formula formulaOf(const Problem& problem, const Fit& fit, const FormulaOptions& 
   for (Long k = 0; k <= problem.LastVar; ++k) formula.variables.push_back(variableOf(problem, k));
   formula.Coef = fit.Coef;
   formula.statistics = fit;
+  formula.figures = options.figures;
   formula.gridPoints = static_cast<Long>(problem.F.size());
   formula.outside = options.outside;
   if (options.within) roundWithin(formula, problem, *options.within);

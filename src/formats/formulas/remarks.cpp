@@ -8,15 +8,17 @@ namespace tavimor {
 namespace {
 
 constexpr std::size_t kLongestName = 60;
+constexpr std::size_t kLongestReason = 160;
+constexpr Long kMostDigits = 15;
 
-// A name in quotation marks, harmless in every kind of comment.
-std::string quoted(const std::string& name) {
-  std::string shown(firstCharacters(name, kLongestName));
-  for (char& c : shown)
-    if (static_cast<unsigned char>(c) < ' ' || c == '\x7F') c = '?';
+// Harmless in every kind of comment.
+std::string inOneLine(const std::string& text, std::size_t characters) {
+  std::string shown = excerpt(text, characters);
   for (std::size_t at; (at = shown.find("/*")) != std::string::npos;) shown.insert(at + 1, " ");
-  return '"' + shown + '"';
+  return shown;
 }
+
+std::string quoted(const std::string& name) { return '"' + inOneLine(name, kLongestName) + '"'; }
 
 std::string variableLine(const FormulaVariable& variable, const std::string& name, Long degree) {
   const std::string original = variable.name == name ? "" : " is " + quoted(variable.name);
@@ -32,6 +34,22 @@ Lines statisticsOf(const Formula& formula) {
           "  sum of squared residuals      " + numberText(figures.SumRes2),
           "  average of the given values   " + numberText(figures.AvgGiven),
           "  average of the estimates      " + numberText(figures.AvgEstimated)};
+}
+
+// Fifteen digits are the most that a listing shows.
+Lines digitsOf(const Formula& formula) {
+  const FitFigures& figures = formula.figures;
+  if (!figures.doubt.empty()) return {"The data determine no fit: " + inOneLine(figures.doubt, kLongestReason) + "."};
+  if (!figures.areKnown()) return {};
+  const std::string when = formula.rounded ? " before rounding" : "";
+  Lines lines = {"Right digits of the coefficients" + when + ", of 15: " + numberText(figures.worstDigits) +
+                 " in the worst that is more than noise"};
+  if (figures.worstDigits == kMostDigits) return lines;
+  lines.back() += "; in each (- for noise):";
+  Lines each;
+  for (const auto& digits : figures.digits) each.push_back(digits ? numberText(*digits) : "-");
+  for (std::string& line : wrapped(each, "  ")) lines.push_back(std::move(line));
+  return lines;
 }
 
 Lines roundingOf(const RoundedBy& rounded) {
@@ -60,6 +78,7 @@ Lines remarks(const Formula& formula, const ProgramNames& names, const LanguageN
   lines.push_back(outsideOf(formula));
   lines.push_back("");
   append(lines, statisticsOf(formula));
+  append(lines, digitsOf(formula));
   if (formula.rounded) append(lines, roundingOf(*formula.rounded));
   if (!notes.bits.empty()) lines.push_back("");
   append(lines, notes.bits);

@@ -14,6 +14,8 @@ namespace {
 
 std::string cell(double value) { return std::isfinite(value) ? decimalLiteral(value) : numberText(value); }
 
+std::string figureCell(double value) { return std::isnan(value) ? "" : cell(value); }
+
 std::string quoted(const std::string& name) {
   std::string text = "\"";
   for (const char c : name) text += c == '"' ? "\"\"" : std::string(1, c);
@@ -29,14 +31,16 @@ std::string withoutTabs(std::string name) {
 
 }  // namespace
 
-std::string residualTable(const Problem& problem, const Fit& fit) {
+std::string residualTable(const Problem& problem, const Fit& fit, const std::optional<PointFigures>& figures) {
   const Table4 estimated = FitOnGrid(problem, fit.Coef);
   std::string table;
   for (Long k = 0; k <= problem.LastVar; ++k) table += quoted(problem.VarName[k]) + ",";
-  table += "given,estimated,residual\n";
+  table += figures ? "given,estimated,residual,leverage,studentised\n" : "given,estimated,residual\n";
   forEachIndex<Fastest::Last>(problem.F.last(), [&](const PerVariable<Long>& i) {
     for (Long k = 0; k <= problem.LastVar; ++k) table += cell(valueOf(problem, k, i[k])) + ",";
-    table += cell(problem.F(i)) + "," + cell(estimated(i)) + "," + cell(problem.F(i) - estimated(i)) + "\n";
+    table += cell(problem.F(i)) + "," + cell(estimated(i)) + "," + cell(problem.F(i) - estimated(i));
+    if (figures) table += "," + figureCell(figures->leverage(i)) + "," + figureCell(figures->studentised(i));
+    table += "\n";
   });
   return table;
 }

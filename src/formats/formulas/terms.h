@@ -11,6 +11,7 @@ namespace tavimor {
 struct Term {
   PerVariable<Long> powers{};
   double coefficient = 0.0;
+  std::size_t number = 0;  // its place among all coefficients in memory
 };
 
 /// The terms, the first variable's power fastest; the one of all powers 0 is there even where no other is.

@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <random>
 
+#include "formats/formulas/figures_json.h"
 #include "formats/formulas/number_literal.h"
 #include "formats/problem_json.h"
 #include "formats/replaced_file.h"
@@ -51,9 +52,11 @@ std::string workbookBytes(const Problem& problem, const Fit& fit, const FormulaO
   if (!program) throw RunTimeError(ErrorNumber::FileNotFound, kProgram);
   const PassageFolder folder;
   const std::string json = folder.file("problem.json");
+  const std::string figures = folder.file("figures.json");
   const std::string workbook = folder.file("workbook.xlsx");
   replaceFile(json, problemJson(problem, fit));
-  std::vector<std::string> arguments = {json, workbook, options.name};
+  replaceFile(figures, figuresJson(options.figures));
+  std::vector<std::string> arguments = {json, figures, workbook, options.name};
   if (options.within) arguments.push_back(decimalLiteral(*options.within));
   if (runProgram(*program, arguments) != 0) throw RunTimeError(ErrorNumber::InvalidCall, kProgram);
   return wholeText(workbook);

@@ -34,6 +34,11 @@ void ExportDialogControls::makeControls() {
   txtWithin->setToolTip(QStringLiteral("The largest difference from the fit; empty for all digits"));
   txtWithin->setMinimumWidth(widthOf(*txtWithin, kWidestNumber));
   chkNaN = makeControl<QCheckBox>(QStringLiteral("chkNaN"), "NaN &outside the intervals");
+  lblChecks = makeControl<QLabel>(QStringLiteral("lblChecks"), "C&heck points");
+  txtChecks = new TextBox(QStringLiteral("txtChecks"));
+  txtChecks->setToolTip(QStringLiteral("How many points a code carries to check itself; 0 for no check"));
+  txtChecks->setText(QString::number(FormulaOptions().checks));
+  chkPrecise = makeControl<QCheckBox>(QStringLiteral("chkPrecise"), "&Precise coefficients");
   txtPreview = new QPlainTextEdit;
   txtPreview->setObjectName(QStringLiteral("txtPreview"));
   txtPreview->setAccessibleName(QStringLiteral("Preview"));
@@ -47,6 +52,7 @@ void ExportDialogControls::makeControls() {
   lblFormat->setBuddy(cboFormat);
   lblName->setBuddy(txtName);
   lblWithin->setBuddy(txtWithin);
+  lblChecks->setBuddy(txtChecks);
 }
 
 void ExportDialogControls::layOut(QWidget& dialog) const {
@@ -58,6 +64,9 @@ void ExportDialogControls::layOut(QWidget& dialog) const {
   choices->addWidget(lblWithin, 1, 0, Qt::AlignRight);
   choices->addWidget(txtWithin, 1, 1);
   choices->addWidget(chkNaN, 1, 3);
+  choices->addWidget(lblChecks, 2, 0, Qt::AlignRight);
+  choices->addWidget(txtChecks, 2, 1);
+  choices->addWidget(chkPrecise, 2, 3);
   choices->setColumnStretch(3, 1);
   auto* buttons = new QHBoxLayout;
   buttons->addStretch(1);

@@ -21,6 +21,9 @@ struct ExportDialogControls {
   QLabel* lblWithin;
   TextBox* txtWithin;
   QCheckBox* chkNaN;
+  QLabel* lblChecks;
+  TextBox* txtChecks;
+  QCheckBox* chkPrecise;
   QPlainTextEdit* txtPreview;
   QPushButton* cmdCopy;
   QPushButton* cmdSave;

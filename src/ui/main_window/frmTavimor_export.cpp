@@ -22,7 +22,7 @@ bool frmTavimor::hasFormulaToExport() const {
 void frmTavimor::mnuExport_Click() {
   if (!hasFormulaToExport()) return;
   const std::string name = formulaNameOf(model_.FileName);
-  ExportDialog(this, model_, model_, name.empty() ? "fit" : name).exec();
+  ExportDialog(this, model_, model_, specFields(), name.empty() ? "fit" : name).exec();
 }
 
 void frmTavimor::mnuCopyTable_Click() {

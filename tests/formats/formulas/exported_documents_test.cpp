@@ -106,6 +106,29 @@ TEST_F(ExportedDocuments, AreWorkbooksThatEstimateEveryGridPoint) {
   }
 }
 
+TEST_F(ExportedDocuments, AreWorkbooksWithDigitsAndStandardErrorsWhereTheyAreKnown) {
+  const Dimension& model = fits[0];
+  FormulaOptions options{.name = "f", .within = {}};
+  const std::size_t count = model.Coef.size();
+  options.figures = {"", 12, std::vector<std::optional<Long>>(count, 12),
+                     std::vector<std::optional<double>>(count, 0.5)};
+  options.figures.digits[0] = std::nullopt;
+  options.figures.standardErrors[0] = std::nullopt;
+  const Outcome outcome =
+      run("f.xlsx", test::exported("xlsx", model, model, options), "LC_ALL=C.UTF-8 ssconvert -S f.xlsx f.csv");
+  ASSERT_EQ(outcome.exitCode, 0) << outcome.err;
+  const auto rows = sheet(1);
+  const std::size_t digits = model.LastVar + 2;
+  ASSERT_EQ(rows.size(), count + 1);
+  EXPECT_EQ(rows[0][digits], "\"right digits\"");
+  EXPECT_EQ(rows[0][digits + 1], "\"standard error\"");
+  EXPECT_EQ(rows[1][digits], "noise");
+  for (std::size_t n = 1; n < count; ++n) {
+    EXPECT_EQ(rows[n + 1][digits], "12");
+    EXPECT_EQ(rows[n + 1][digits + 1], "0.5");
+  }
+}
+
 TEST_F(ExportedDocuments, AreTheSameWorkbookEveryTime) {
   EXPECT_EQ(exported("xlsx", fits[0]), exported("xlsx", fits[0]));
 }

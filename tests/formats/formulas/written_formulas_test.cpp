@@ -57,6 +57,24 @@ TEST(WrittenText, OfARoundedFormulaStatesBoundAndLargestDifference) {
                      testing::EndsWith("slope(p, T_C) =\n    2\n  + 3*(p - 0.5)\n")));
 }
 
+TEST(WrittenText, TellsRightDigitsWhereTheyAreKnown) {
+  FormulaOptions options{.name = "slope", .within = {}};
+  options.figures = {"", 12, {15, 13, std::nullopt, 12}, {}};
+  EXPECT_THAT(
+      written("text", options),
+      HasSubstr("\nRight digits of the coefficients, of 15: 12 in the worst that is more than noise; in each (- "
+                "for noise):\n  15, 13, -, 12\n"));
+  options.figures = {"", 15, {15, 15, 15, 15}, {}};
+  EXPECT_THAT(written("text", options), HasSubstr("of 15: 15 in the worst that is more than noise\n\nslope("));
+}
+
+TEST(WrittenText, TellsThatTheDataDetermineNoFit) {
+  FormulaOptions options{.name = "slope", .within = {}};
+  options.figures.doubt = "variable \"/*\n\" has 2 different values";
+  EXPECT_THAT(written("text", options),
+              HasSubstr("\nThe data determine no fit: variable \"/ *?\" has 2 different values.\n"));
+}
+
 TEST(WrittenLaTeX, BreaksTheEquationAtItsTermsAndListsThem) {
   EXPECT_THAT(written("latex", {.name = "slope", .within = {}}),
               testing::AllOf(HasSubstr("\\mathrm{slope}(p, \\mathrm{T\\_C}) ={}& 2 + 3\\,(p - 0.5) \\\\\n"

@@ -6,8 +6,12 @@
 #include <QMenu>
 #include <QPlainTextEdit>
 
+#include "analysis/figures.h"
 #include "formats/formulas/export_formats.h"
+#include "support/example.h"
+#include "support/problem.h"
 #include "support/stored.h"
+#include "support/stored_problems.h"
 #include "ui/support/main_window_test.h"
 
 namespace tavimor {
@@ -56,7 +60,8 @@ class Export : public MainWindowTest {
     QTest::keyClicks(line, text);
   }
 
-  std::string written(const char* format, const FormulaOptions& options) {
+  std::string written(const char* format, FormulaOptions options) {
+    options.figures = fitFigures(secondOpinionOn(model), model, model);
     return exportFormat(format)->write(model, model, options);
   }
 
@@ -85,6 +90,48 @@ TEST_F(Export, FollowsTheChoices) {
     QTest::keyClick(dialog.findChild<QCheckBox*>("chkNaN"), Qt::Key_Space);
   });
   EXPECT_EQ(shown, written("python", {.name = "slope", .within = 0.25, .outside = Outside::NotANumber}));
+}
+
+TEST_F(Export, TakesTheNumberOfCheckPoints) {
+  fit();
+  const std::string shown = previewAfter([](QDialog& dialog) { typeInto(dialog, "txtChecks", "7"); });
+  EXPECT_EQ(shown, written("c", {.name = "plane", .within = {}, .checks = 7}));
+}
+
+TEST_F(Export, OfANumberOfCheckPointsThatIsNoneGivesNothing) {
+  fit();
+  for (const char* text : {"", "-1", "1.5", "100001"}) {
+    const std::string shown = previewAfter([&](QDialog& dialog) {
+      typeInto(dialog, "txtChecks", text);
+      if (*text == '\0') QTest::keyClick(dialog.findChild<QLineEdit*>("txtChecks"), Qt::Key_Delete);
+      EXPECT_FALSE(dialog.findChild<QPushButton*>("cmdSave")->isEnabled()) << text;
+    });
+    EXPECT_EQ(shown, "The number of check points must be a whole number from 0 to 100000.");
+  }
+}
+
+TEST_F(Export, TakesThePreciseCoefficients) {
+  test::store(test::Example("nist/filip").model, file("filip"));
+  open("filip");
+  click("cmdCompute");
+  const SecondOpinion opinion = secondOpinionOn(model);
+  const Fit precise = listedForm(opinion.precise);
+  FormulaOptions options{.name = "filip", .within = {}};
+  options.figures = fitFigures(opinion, model, precise);
+  const std::string shown =
+      previewAfter([](QDialog& dialog) { QTest::keyClick(dialog.findChild<QCheckBox*>("chkPrecise"), Qt::Key_Space); });
+  EXPECT_EQ(shown, exportFormat("c")->write(model, precise, options));
+  EXPECT_NE(shown, written("c", {.name = "filip", .within = {}}));
+}
+
+TEST_F(Export, OffersNoPreciseCoefficientsWhereThereAreNone) {
+  Dimension twice = test::problem({{"x", {1, 1, 2}, 2, 0}});
+  test::pretendFit(twice);
+  test::store(twice, file("twice"));
+  open("twice");
+  const std::string shown =
+      previewAfter([](QDialog& dialog) { EXPECT_FALSE(dialog.findChild<QCheckBox*>("chkPrecise")->isEnabled()); });
+  EXPECT_THAT(shown, HasSubstr("The data determine no fit"));
 }
 
 TEST_F(Export, OfADistanceThatIsNoNumberGivesNothing) {
