@@ -62,8 +62,13 @@ std::optional<Long> solve(std::vector<std::future<Gram>> matrices, const FitOpti
 // is singular too: that is refused at once.
 void requireShortWork(const Problem& problem) {
   constexpr Long mostDegree = 1023;
-  for (const Long degree : problem.Degree)
-    if (degree > mostDegree) throw RunTimeError(ErrorNumber::OutOfMemory);
+  constexpr double mostWork = 1e10;  // multiplications and additions: some two seconds
+  double work = 0.0;
+  for (Long k = 0; k < kMaxVariables; ++k) {
+    const double terms = problem.Degree[k] + 1.0;
+    work += (problem.LastPoint[k] + terms) * terms * terms;
+    if (problem.Degree[k] > mostDegree || work > mostWork) throw RunTimeError(ErrorNumber::OutOfMemory);
+  }
 }
 
 // The first variable whose system is singular, found on a single line: no larger table is needed to tell.
@@ -91,6 +96,7 @@ void endWithoutRoom(const Problem& problem, Long variable, const FitOptions& opt
 
 void fitInto(const Problem& problem, const FitOptions& options, FitOutcome& outcome) {
   if (const auto variable = axisWithoutRoom(problem)) return endWithoutRoom(problem, *variable, options, outcome);
+  for (Long k = 0; k <= problem.LastVar; ++k) requireNormalMatrix(problem.Degree[k]);
   Fit& fit = outcome.fit;
   std::vector<std::future<Gram>> matrices = normalMatrices(problem, options);
   fit.Coef = rightHandSide(problem, options);

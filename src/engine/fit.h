@@ -32,7 +32,7 @@ struct FitOutcome {
 /// values and the statistics. The specifications must have been captured.
 /// `earlier` gives the figures that have no value now (see fitStatistics).
 /// Errors: none; a run-time error is an outcome. One that is bound to end without room is not worth long work: a degree
-/// above 1023 ends it then as OutOfMemory at once.
+/// above 1023, or sums that take seconds, end it then as OutOfMemory at once.
 FitOutcome fit(const Problem& problem, const FitOptions& options = {}, const Statistics& earlier = {});
 
 }  // namespace tavimor

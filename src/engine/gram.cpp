@@ -1,6 +1,7 @@
 #include "engine/gram.h"
 
 #include <algorithm>
+#include <string>
 
 #include "engine/called_off.h"
 #include "engine/lane_sums.h"
@@ -13,9 +14,8 @@ namespace {
 constexpr std::size_t kFewestPoints = 64;  // fewer at a time do not pay
 
 std::size_t matrixSize(Long degree) {
-  if (degree < 0) throw RunTimeError(ErrorNumber::SubscriptOutOfRange);
+  requireNormalMatrix(degree);
   const std::size_t rows = static_cast<std::size_t>(degree) + 1;
-  if (rows > std::vector<double>().max_size() / rows) throw RunTimeError(ErrorNumber::OutOfMemory);
   return rows * rows;
 }
 
@@ -37,6 +37,14 @@ void addPlainly(const Axis& axis, const FitOptions& options, Gram& gram) {
 }
 
 }  // namespace
+
+void requireNormalMatrix(Long degree) {
+  if (degree < 0) throw RunTimeError(ErrorNumber::SubscriptOutOfRange);
+  if (degree > kMostDegree)
+    throw RunTimeError(ErrorNumber::OutOfMemory, {},
+                       "for the normal matrix of degree " + std::to_string(degree) + ": " +
+                           std::to_string(kMostDegree) + " is the largest");
+}
 
 Gram::Gram(Long degree) : degree_(degree), elements_(matrixSize(degree)) {}
 

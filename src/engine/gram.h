@@ -7,8 +7,16 @@
 
 namespace tavimor {
 
-/// The normal matrix of one variable: degree + 1 rows and columns.
-/// Errors: SubscriptOutOfRange for a degree below 0, OutOfMemory.
+/// The largest degree with a normal matrix: 200 MB, and half as much again while it is
+/// made. A file of some kilobytes can ask for a larger one, and no double
+/// tells the powers of such degrees apart.
+inline constexpr Long kMostDegree = 4999;
+
+/// Whether the normal matrix of a degree can be, asked before memory is taken for it.
+/// Errors: SubscriptOutOfRange for a degree below 0, OutOfMemory above the largest one.
+void requireNormalMatrix(Long degree);
+
+/// The normal matrix of one variable: degree + 1 rows and columns. Errors: as requireNormalMatrix, and OutOfMemory.
 class Gram {
  public:
   explicit Gram(Long degree);

@@ -5,6 +5,7 @@
 #include <atomic>
 #include <chrono>
 
+#include "engine/gram.h"
 #include "runtime/run_time_error.h"
 #include "support/problem.h"
 
@@ -49,6 +50,15 @@ TEST(Fit, ADegreeBeyondTheThousandIsFittedWhereTheGridHasRoom) {
   EXPECT_EQ(outcome.fit.Coef.size(), 1025u);
 }
 
+TEST(Fit, ADegreeWhoseNormalMatrixIsTooLargeIsRefusedAtOnce) {
+  const auto begin = std::chrono::steady_clock::now();
+  const FitOutcome outcome = fit(problem({{"x", test::spaced(-1, 1, 200000), kMostDegree + 1, 0}}));
+  EXPECT_EQ(outcome.end, FitEnd::Error);
+  EXPECT_EQ(outcome.ErrNumber, static_cast<Long>(ErrorNumber::OutOfMemory));
+  EXPECT_EQ(outcome.detail, "for the normal matrix of degree 5000: 4999 is the largest");
+  EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(1));
+}
+
 TEST(Fit, AHugeDegreeWithoutRoomIsRefusedAtOnce) {
   const auto begin = std::chrono::steady_clock::now();
   for (const Long degree : {1024, 46341, 2147483646}) {
@@ -58,6 +68,7 @@ TEST(Fit, AHugeDegreeWithoutRoomIsRefusedAtOnce) {
   }
   const FitOutcome outcome = fit(problem({{"x", test::spaced(-1, 1, 20001), 20000, 0}, {"y", {0, 1}, 2, 0.5}}));
   EXPECT_EQ(outcome.end, FitEnd::Error);
+  EXPECT_EQ(fit(problem({{"x", test::spaced(-1, 1, 100000), 1023, 0}, {"y", {0, 1}, 2, 0.5}})).end, FitEnd::Error);
   EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(1));
 }
 
