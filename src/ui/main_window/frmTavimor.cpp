@@ -106,7 +106,7 @@ void frmTavimor::showBlockNumber(Long number) {
 void frmTavimor::Compute() {
   FitOptions options;
   options.isCalledOff = endIsRequested;
-  const auto addItem = [this](const std::string& line) { lstCoeff->addItem(QString::fromStdString(line)); };
+  const auto addItem = [this](const std::string& line) { lstCoeff->addItem(line); };
   tavimor::Compute(model_, addItem, options);
 }
 

@@ -47,8 +47,8 @@ void frmTavimor::fitTablesToSpecs() {
 }
 
 void frmTavimor::ShowResults() {
-  QStringList lines;
-  tavimor::ShowResults(model_, model_, [&lines](const std::string& line) { lines << QString::fromStdString(line); });
+  TextLines lines;
+  tavimor::ShowResults(model_, model_, [&lines](const std::string& line) { lines.add(line); });
   lstCoeff->addItems(lines);
   setTermIndices(model_, model_.Degree);  // as the walk over the terms leaves them
 }

@@ -23,11 +23,17 @@ class ListBoxes : public testing::Test {
 
   static QString clipboard() { return QGuiApplication::clipboard()->text(); }
 
+  void add(const std::vector<std::string>& lines) {
+    TextLines added;
+    for (const std::string& line : lines) added.add(line);
+    list.addItems(added);
+  }
+
   ListBox list{QStringLiteral("lstTest")};
 };
 
 TEST_F(ListBoxes, CtrlACtrlCCopyAllLinesWithoutBlanksAtTheirEnds) {
-  list.addItems({QStringLiteral("1   *x  "), QString(), QStringLiteral("  2")});
+  add({"1   *x  ", "", "  2"});
   show();
   QTest::keyClick(&list, Qt::Key_A, Qt::ControlModifier);
   QTest::keyClick(&list, Qt::Key_C, Qt::ControlModifier);
@@ -35,10 +41,11 @@ TEST_F(ListBoxes, CtrlACtrlCCopyAllLinesWithoutBlanksAtTheirEnds) {
 }
 
 TEST_F(ListBoxes, CtrlCCopiesTheSelectedLinesFromTopToBottom) {
-  list.addItems({QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")});
+  add({"a", "b", "c"});
   show();
   const auto click = [this](int row, Qt::KeyboardModifiers modifiers) {
-    QTest::mouseClick(list.viewport(), Qt::LeftButton, modifiers, list.visualItemRect(list.item(row)).center());
+    QTest::mouseClick(list.viewport(), Qt::LeftButton, modifiers,
+                      list.visualRect(list.model()->index(row, 0)).center());
   };
   click(2, Qt::NoModifier);
   click(0, Qt::ControlModifier);
@@ -47,15 +54,26 @@ TEST_F(ListBoxes, CtrlCCopiesTheSelectedLinesFromTopToBottom) {
 }
 
 TEST_F(ListBoxes, BlanksAtALinesEndDoNotMakeItScroll) {
-  list.addItem(QStringLiteral("1.5") + QString(255, QLatin1Char(' ')));
+  list.addItem("1.5" + std::string(255, ' '));
   show();
   EXPECT_EQ(list.horizontalScrollBar()->maximum(), 0);
 }
 
 TEST_F(ListBoxes, ALongLineScrolls) {
-  list.addItem(QString(255, QLatin1Char('x')));
+  list.addItem(std::string(255, 'x'));
   show();
   EXPECT_GT(list.horizontalScrollBar()->maximum(), 0);
+}
+
+TEST_F(ListBoxes, ALineKeepsItsBlanks) {
+  add({"größe  ", "   ", ""});
+  list.addItem("x ");
+  EXPECT_EQ(list.text(0), QStringLiteral("größe  "));
+  EXPECT_EQ(list.text(1), QStringLiteral("   "));
+  EXPECT_EQ(list.text(2), QString());
+  EXPECT_EQ(list.text(3), QStringLiteral("x "));
+  list.clear();
+  EXPECT_EQ(list.count(), 0);
 }
 
 TEST_F(ListBoxes, TheFontIsOfFixedPitch) {
@@ -65,11 +83,11 @@ TEST_F(ListBoxes, TheFontIsOfFixedPitch) {
 
 TEST_F(ListBoxes, TenThousandLinesAppearAtOnce) {
   show();
-  QStringList lines;
-  for (int n = 0; n < 10000; ++n) lines << QString::number(n) + QString(255, QLatin1Char(' '));
+  std::vector<std::string> lines;
+  for (int n = 0; n < 10000; ++n) lines.push_back(std::to_string(n) + std::string(255, ' '));
   QElapsedTimer timer;
   timer.start();
-  list.addItems(lines);
+  add(lines);
   list.grab();
   EXPECT_LT(timer.elapsed(), 1000);
   EXPECT_EQ(list.count(), 10000);

@@ -11,7 +11,6 @@
 #include "support/example.h"
 #include "support/problem.h"
 #include "support/stored.h"
-#include "support/stored_problems.h"
 #include "ui/support/main_window_test.h"
 
 namespace tavimor {
@@ -126,7 +125,8 @@ TEST_F(Export, TakesThePreciseCoefficients) {
 
 TEST_F(Export, OffersNoPreciseCoefficientsWhereThereAreNone) {
   Dimension twice = test::problem({{"x", {1, 1, 2}, 2, 0}});
-  test::pretendFit(twice);
+  twice.Coef.redim(twice.Degree);
+  twice.FitDone = true;
   test::store(twice, file("twice"));
   open("twice");
   const std::string shown =

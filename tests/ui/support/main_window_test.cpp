@@ -24,7 +24,7 @@ MainWindowTest::~MainWindowTest() {
 
 std::string MainWindowTest::listing() {
   std::string text;
-  for (int row = 0; row < results().count(); ++row) text += results().item(row)->text().toStdString() + '\n';
+  for (int row = 0; row < results().count(); ++row) text += results().text(row).toStdString() + '\n';
   return text;
 }
 

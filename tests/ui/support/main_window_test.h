@@ -6,12 +6,12 @@
 #include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QListWidget>
 #include <QPointer>
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
 
+#include "ui/controls/list_box.h"
 #include "ui/main_window/frmTavimor.h"
 #include "ui/support/dialogs.h"
 
@@ -29,7 +29,7 @@ class MainWindowTest : public testing::Test {
   QCheckBox& check(const QString& name) { return find<QCheckBox>(name); }
   QLabel& label(const QString& name) { return find<QLabel>(name); }
   QAction& item(const QString& name) { return find<QAction>(name); }
-  QListWidget& results() { return find<QListWidget>("lstCoeff"); }
+  ListBox& results() { return find<ListBox>("lstCoeff"); }
   std::string listing();
 
   std::string textOf(const QString& name) { return box(name).text().toStdString(); }
