@@ -12,7 +12,9 @@
 #include "model/value_lists.h"
 #include "platform/file_query.h"
 #include "platform/memory.h"
+#include "runtime/bad_file.h"
 #include "runtime/input_file.h"
+#include "runtime/number_text.h"
 #include "runtime/val.h"
 
 namespace tavimor {
@@ -168,6 +170,22 @@ void readValues(InputFile file, StoredProblem& stored) {
   file.expectEnd();
 }
 
+// A few long names can make the listing of many coefficients a thousand times as large as the files. Where no fit is
+// stored and none can be made, there is none.
+void requireShortListing(const std::string& path, const StoredProblem& stored) {
+  constexpr double fewCharacters = 200.0, mostCharacters = 128e6;
+  const Problem& problem = stored.problem;
+  double lines = 1.0, names = 0.0;
+  for (Long v = 0; v <= problem.LastVar; ++v) {
+    if (!stored.fit.FitDone && problem.Degree[v] > problem.LastPoint[v]) return;
+    lines *= problem.Degree[v] + 1.0;
+    names += static_cast<double>(problem.VarName[v].size());
+  }
+  if (names <= fewCharacters || lines * names <= mostCharacters) return;
+  throw BadFile(path, 2, "names short enough to list " + numberText(lines) + " coefficients",
+                numberText(names) + " characters");
+}
+
 double sizeOf(const FileHandle& file) {
   FileFacts facts;
   return file && queryFile(file.get(), facts) ? static_cast<double>(facts.size) : 0.0;
@@ -186,6 +204,7 @@ StoredProblem readProblem(const std::string& path, const Progress& progress) {
   InputFile values(std::move(pair.values), pair.paths.values);
   if (progress) values.setProgress([&](double share) { progress(part + share * (1.0 - part)); });
   readValues(std::move(values), stored);
+  requireShortListing(pair.paths.specification, stored);
   return stored;
 }
 

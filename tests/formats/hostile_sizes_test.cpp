@@ -69,5 +69,20 @@ TEST_F(HostileSizes, ManyNumbersThatAreNotThereTakeMemoryInProportionToTheFile) 
   expectRefusedWithLittleMemory("0\nx,0,1,0,#FALSE#,0,1\n#FALSE#\n", "0\n9999\n#TRUE#\n1\n" + blanks + "\n");
 }
 
+// Each coefficient is listed with the names.
+TEST_F(HostileSizes, LongNamesOfManyCoefficientsAreRefused) {
+  const std::string record = '"' + std::string(4000, 'a') + "\",0,1,0,#TRUE#,0,199\n";
+  std::string numbers = "0";
+  for (int n = 1; n < 400 + 40000; ++n) numbers += ",0";
+  writePair("1\n" + record + record + "#FALSE#\n", "1\n199\n#TRUE#\n199\n#TRUE#\n" + numbers + "\n");
+  test::expectBadFile("line 2: expected names short enough to list 40000 coefficients, found 8000 characters",
+                      [&] { readProblem(path()); });
+}
+
+TEST_F(HostileSizes, LongNamesOfDegreesWithoutRoomCanBeOpened) {
+  writePair("0\n\"" + std::string(4000, 'a') + "\",0,1,0,#TRUE#,0,2147483646\n#FALSE#\n", "0\n1\n#TRUE#\n0\n1\n8\n9\n");
+  EXPECT_EQ(readProblem(path()).problem.VarName[0].size(), 4000u);
+}
+
 }  // namespace
 }  // namespace tavimor

@@ -2,6 +2,7 @@
 
 #include <fcntl.h>
 #include <poll.h>
+#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -84,6 +85,18 @@ inline std::string readLine(const Descriptor& descriptor) {
   return line;
 }
 
+/// What a process has taken of the machine: the time of its processors, the most memory at a time.
+struct Usage {
+  double processorSeconds = 0.0;
+  double megabytes = 0.0;
+};
+
+#ifdef __APPLE__
+constexpr double kUnitsPerMegabyte = 1024 * 1024;  // the system tells bytes
+#else
+constexpr double kUnitsPerMegabyte = 1024;  // the system tells kilobytes
+#endif
+
 /// A child process whose standard streams are the given descriptors.
 class Process {
  public:
@@ -102,6 +115,19 @@ class Process {
   int wait() {
     int status = 0;
     waitpid(id_, &status, 0);
+    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+  }
+
+  /// The same, with what the process has taken of the machine.
+  int wait(Usage& usage) {
+    int status = 0;
+    rusage taken{};
+    wait4(id_, &status, 0, &taken);
+    const auto seconds = [](const timeval& time) {
+      return static_cast<double>(time.tv_sec) + 1e-6 * static_cast<double>(time.tv_usec);
+    };
+    usage.processorSeconds = seconds(taken.ru_utime) + seconds(taken.ru_stime);
+    usage.megabytes = static_cast<double>(taken.ru_maxrss) / kUnitsPerMegabyte;
     return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
   }
 
