@@ -4,6 +4,7 @@
 
 #include "cli/cli.h"
 #include "cli/exit_code.h"
+#include "runtime/long.h"
 
 namespace tavimor {
 namespace {

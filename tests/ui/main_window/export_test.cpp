@@ -100,6 +100,7 @@ TEST_F(Export, TakesTheNumberOfCheckPoints) {
 TEST_F(Export, OfANumberOfCheckPointsThatIsNoneGivesNothing) {
   fit();
   for (const char* text : {"", "-1", "1.5", "100001"}) {
+    activate();
     const std::string shown = previewAfter([&](QDialog& dialog) {
       typeInto(dialog, "txtChecks", text);
       if (*text == '\0') QTest::keyClick(dialog.findChild<QLineEdit*>("txtChecks"), Qt::Key_Delete);
