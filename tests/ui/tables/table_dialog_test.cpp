@@ -2,6 +2,7 @@
 #include <QClipboard>
 #include <QComboBox>
 #include <QGuiApplication>
+#include <QListWidget>
 #include <QMenuBar>
 #include <QTableWidget>
 
