@@ -24,25 +24,29 @@ void addReading(CLI::App& command, CommandOptions& options) {
 
 }  // namespace
 
-void addAnalysisOptions(CLI::App& app, CommandOptions& options) {
-  CLI::App& fit = *app.get_subcommand("fit");
+void addNoCheck(CLI::App& command, CommandOptions& options, const char* does) {
+  command.add_flag("--no-check", options.noCheck, does);
+}
+
+void addFitOptions(CLI::App& fit, CommandOptions& options) {
   addChanges(fit, options);
   fit.add_flag("--precise", options.precise, "list and save the exact least-squares solution");
-  fit.add_flag("--no-check", options.noCheck, "do not look how many digits are right");
-  app.get_subcommand("export")->add_flag("--no-check", options.noCheck, "leave right digits and standard errors out");
-  app.get_subcommand("residuals")->add_flag("--no-check", options.noCheck, "leave leverages and studentised out");
+  addNoCheck(fit, options, "do not look how many digits are right");
+}
 
-  CLI::App& analyse = *app.get_subcommand("analyse");
+void addAnalyseOptions(CLI::App& analyse, CommandOptions& options) {
   addChanges(analyse, options);
   addLevel(analyse, options);
   addReading(analyse, options);
+}
 
-  CLI::App& degrees = *app.get_subcommand("degrees");
+void addDegreesOptions(CLI::App& degrees, CommandOptions& options) {
   degrees.add_option("--max", options.most, "the largest degrees (two more than the problem's)")->type_name("D,...");
   degrees.add_flag("--all", options.all, "also the combinations that another one beats in terms and in s");
   addReading(degrees, options);
+}
 
-  CLI::App& eval = *app.get_subcommand("eval");
+void addEvalOptions(CLI::App& eval, CommandOptions& options) {
   eval.add_flag("--interval", options.interval, "precise estimate, standard error, confidence and prediction interval");
   addLevel(eval, options);
 }

@@ -8,8 +8,11 @@ class App;
 
 namespace tavimor {
 
-/// The options by which commands ask for a second opinion, or for another fit than that of the files. The commands
-/// must have been added.
-void addAnalysisOptions(CLI::App& app, CommandOptions& options);
+/// The options by which a command asks for a second opinion, or for another fit than that of the files.
+void addNoCheck(CLI::App& command, CommandOptions& options, const char* does);
+void addFitOptions(CLI::App& fit, CommandOptions& options);
+void addAnalyseOptions(CLI::App& analyse, CommandOptions& options);
+void addDegreesOptions(CLI::App& degrees, CommandOptions& options);
+void addEvalOptions(CLI::App& eval, CommandOptions& options);
 
 }  // namespace tavimor

@@ -15,73 +15,102 @@ namespace {
 
 constexpr char kProgram[] = "tavimor-cli";
 
-struct Command {
-  const char* name;
-  const char* does;
-  const char* example;
-  const char* input = "PROBLEM";
-  const char* inputIs = kProblemIs;
-};
-
-constexpr Command kCommands[] = {
-    {"fit", "Fit the problem and print the results listing", "fit ozone -o ozone-fitted"},
-    {"show", "Print the specifications and the stored results", "show ozone-fitted"},
-    {"eval", "Print the estimate at a point, or at each point on standard input", "eval sound-speed 10 35 1000"},
-    {"analyse", "Tell how many digits of a fit are right, and give the right ones", "analyse sound-speed"},
-    {"degrees", "Tell how well each combination of degrees would fit", "degrees silicon-index --max 5,9"},
-    {"report", "Print the report: specifications, stored results, data; it does not fit", "report ozone-fitted"},
-    {"copy", "Open the problem and save it under another name", "copy ozone ozone-2"},
-    {"import", "Make a problem of a table", "import table.csv gauge --degree 2,1", "TABLE",
-     "a file of numbers in columns, or - for standard input"},
-    {"export", "Write the fit as a formula in many forms, or the whole as JSON",
-     "export ozone --to python -o ozone.py"},
-    {"residuals", "Write a table of given and fitted values", "residuals ozone -o ozone.csv"},
-};
-
-std::string exampleLine(const Command& command) { return std::string("tavimor-cli ") + command.example; }
-
 std::string refusalOfEmptyName(const std::string& name) { return name.empty() ? "a file name is needed" : ""; }
 
 // A positional without the type and the word REQUIRED that would stand beside it in the help.
 CLI::Option* plainly(CLI::Option* option) { return option->option_text(" "); }
 
-CLI::App* addCommand(CLI::App& app, Arguments& arguments, const Command& command) {
-  CLI::App* added = app.add_subcommand(command.name, command.does);
-  added->group("Commands");
-  added->footer("Example:\n  " + exampleLine(command));
-  plainly(added->add_option(command.input, arguments.problem, command.inputIs))->required()->check(refusalOfEmptyName);
-  return added;
+void addOutput(CLI::App& command, Arguments& arguments, const char* does) {
+  command.add_option("-o,--output", arguments.output, does)->type_name("OUT")->check(refusalOfEmptyName);
 }
 
-void addCommands(CLI::App& app, Arguments& arguments) {
+void addNewName(CLI::App& command, Arguments& arguments, const char* is) {
+  plainly(command.add_option("OUT", arguments.output, is))->required()->check(refusalOfEmptyName);
+}
+
+constexpr char kWritesToFile[] = "write to the file OUT, not to standard output";
+
+void addToFit(CLI::App& fit, Arguments& arguments) {
+  addOutput(fit, arguments, "save the fitted problem as OUT and OUT.dat");
+  addFitOptions(fit, arguments.options);
+}
+
+void addToEval(CLI::App& eval, Arguments& arguments) {
+  plainly(eval.add_option("VALUE", arguments.values, "one value per variable; without any, one point a line is read"));
+  addEvalOptions(eval, arguments.options);
+}
+
+void addToAnalyse(CLI::App& analyse, Arguments& arguments) { addAnalyseOptions(analyse, arguments.options); }
+
+void addToDegrees(CLI::App& degrees, Arguments& arguments) { addDegreesOptions(degrees, arguments.options); }
+
+void addToCopy(CLI::App& copy, Arguments& arguments) {
+  addNewName(copy, arguments, "the copy's name: OUT and OUT.dat");
+}
+
+void addToImport(CLI::App& import, Arguments& arguments) {
+  addNewName(import, arguments, "the problem's name: OUT and OUT.dat");
+  addImportOptions(import, arguments.importing);
+}
+
+void addToExport(CLI::App& exporting, Arguments& arguments) {
+  addExportOptions(exporting, arguments.exporting);
+  addNoCheck(exporting, arguments.options, "leave right digits and standard errors out");
+  addOutput(exporting, arguments, kWritesToFile);
+}
+
+void addToResiduals(CLI::App& residuals, Arguments& arguments) {
+  addNoCheck(residuals, arguments.options, "leave leverages and studentised out");
+  addOutput(residuals, arguments, kWritesToFile);
+}
+
+struct Command {
+  const char* name;
+  const char* does;
+  const char* example;
+  void (*addOptions)(CLI::App& command, Arguments& arguments) = nullptr;
+  const char* input = "PROBLEM";
+  const char* inputIs = kProblemIs;
+};
+
+constexpr Command kCommands[] = {
+    {"fit", "Fit the problem and print the results listing", "fit ozone -o ozone-fitted", addToFit},
+    {"show", "Print the specifications and the stored results", "show ozone-fitted"},
+    {"eval", "Print the estimate at a point, or at each point on standard input", "eval sound-speed 10 35 1000",
+     addToEval},
+    {"analyse", "Tell how many digits of a fit are right, and give the right ones", "analyse sound-speed",
+     addToAnalyse},
+    {"degrees", "Tell how well each combination of degrees would fit", "degrees silicon-index --max 5,9", addToDegrees},
+    {"report", "Print the report: specifications, stored results, data; it does not fit", "report ozone-fitted"},
+    {"copy", "Open the problem and save it under another name", "copy ozone ozone-2", addToCopy},
+    {"import", "Make a problem of a table", "import table.csv gauge --degree 2,1", addToImport, "TABLE",
+     "a file of numbers in columns, or - for standard input"},
+    {"export", "Write the fit as a formula in many forms, or the whole as JSON", "export ozone --to python -o ozone.py",
+     addToExport},
+    {"residuals", "Write a table of given and fitted values", "residuals ozone -o ozone.csv", addToResiduals},
+};
+
+std::string exampleLine(const Command& command) { return std::string("tavimor-cli ") + command.example; }
+
+void addItsArguments(CLI::App& added, Arguments& arguments, const Command& command) {
+  added.footer("Example:\n  " + exampleLine(command));
+  plainly(added.add_option(command.input, arguments.problem, command.inputIs))->required()->check(refusalOfEmptyName);
+  if (command.addOptions != nullptr) command.addOptions(added, arguments);
+}
+
+// A command can only be the first word that is no option. The others are named and have no arguments made: a tenth of
+// the time that a small fit takes.
+void addCommands(CLI::App& app, Arguments& arguments, const std::vector<std::string>& words) {
+  const auto first = std::find_if(words.begin(), words.end(), [](const auto& word) { return !word.starts_with('-'); });
   std::string examples = "Examples:";
   for (const Command& command : kCommands) {
-    addCommand(app, arguments, command);
+    CLI::App* added = app.add_subcommand(command.name, command.does)->group("Commands");
+    if (first != words.end() && *first == command.name) addItsArguments(*added, arguments, command);
     examples += "\n  " + exampleLine(command);
   }
   app.footer(examples +
              "\nExit status: 0 done, 1 an error, 2 wrong usage, 3 no fit (a singular matrix, too "
              "high a degree, or results that are not finite).");
-  app.get_subcommand("fit")
-      ->add_option("-o,--output", arguments.output, "save the fitted problem as OUT and OUT.dat")
-      ->type_name("OUT")
-      ->check(refusalOfEmptyName);
-  plainly(app.get_subcommand("eval")->add_option("VALUE", arguments.values,
-                                                 "one value per variable; without any, one point a line is read"));
-  addAnalysisOptions(app, arguments.options);
-  plainly(app.get_subcommand("import")->add_option("OUT", arguments.output, "the problem's name: OUT and OUT.dat"))
-      ->required()
-      ->check(refusalOfEmptyName);
-  addImportOptions(*app.get_subcommand("import"), arguments.importing);
-  plainly(app.get_subcommand("copy")->add_option("OUT", arguments.output, "the copy's name: OUT and OUT.dat"))
-      ->required()
-      ->check(refusalOfEmptyName);
-  addExportOptions(*app.get_subcommand("export"), arguments.exporting);
-  for (const char* command : {"export", "residuals"})
-    app.get_subcommand(command)
-        ->add_option("-o,--output", arguments.output, "write to the file OUT, not to standard output")
-        ->type_name("OUT")
-        ->check(refusalOfEmptyName);
 }
 
 bool isNegativeNumber(const std::string& word) {
@@ -147,9 +176,9 @@ ParsedArguments parseArguments(std::vector<std::string> words) {
   app.get_formatter()->label("SUBCOMMAND", "COMMAND");
   app.get_formatter()->label("Positionals", "Arguments");
   app.require_subcommand(1);
-  addCommands(app, parsed.arguments);
-
   if (!words.empty() && words.front() == "analyze") words.front() = "analyse";
+  addCommands(app, parsed.arguments, words);
+
   protectNegativeNumbers(words);
   std::reverse(words.begin(), words.end());  // the order in which the parser takes them
   try {
