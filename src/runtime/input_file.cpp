@@ -19,7 +19,6 @@ namespace tavimor {
 namespace {
 
 constexpr std::size_t kWindowBytes = std::size_t{256} * 1024;
-constexpr std::size_t kNumbersAtATime = 4096;
 constexpr std::ptrdiff_t kUsualFieldBytes = 64;  // a window with less left is filled before a number is read
 constexpr const char* kTooLong = "a field that is too long";
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
@@ -193,17 +192,16 @@ bool InputFile::readBoolean(const char* item) {
   return isTrue;
 }
 
-void InputFile::readDoubles(const char* item, std::size_t count, const TakeNumbers& take) {
-  std::vector<double> numbers;
-  numbers.reserve(std::min(count, kNumbersAtATime));
-  while (count > 0) {
+void InputFile::readDoubles(const char* item, std::span<double> numbers) {
+  while (!numbers.empty()) {
     if (last_ - at_ < kUsualFieldBytes) fill();
-    numbers.clear();
-    at_ = readPrintLines(at_, last_, std::min(count, kNumbersAtATime), numbers);
-    line_ += static_cast<long>(numbers.size());
-    if (numbers.empty()) numbers.push_back(readDouble(item));
-    take(numbers);
-    count -= numbers.size();
+    const PrintLines lines = readPrintLines(at_, last_, numbers);
+    at_ = lines.end;
+    line_ += static_cast<long>(lines.count);
+    numbers = numbers.subspan(lines.count);
+    if (lines.count > 0) continue;
+    numbers.front() = readDouble(item);
+    numbers = numbers.subspan(1);
   }
 }
 

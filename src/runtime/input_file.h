@@ -2,7 +2,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <functional>
 #include <limits>
 #include <span>
 #include <string>
@@ -44,9 +43,8 @@ class InputFile {
   /// "#TRUE#" or "#FALSE#".
   bool readBoolean(const char* item);
 
-  /// `count` numbers, handed to `take` in their order, many at a time.
-  using TakeNumbers = std::function<void(std::span<const double>)>;
-  void readDoubles(const char* item, std::size_t count, const TakeNumbers& take);
+  /// As many numbers as there are places for them.
+  void readDoubles(const char* item, std::span<double> numbers);
 
   /// Only blank lines may follow: anything else is an error.
   void expectEnd();

@@ -1,33 +1,25 @@
 #include "runtime/numeral.h"
 
 #include <algorithm>
-#include <array>
 #include <bit>
 #include <charconv>
 #include <cstdint>
-#include <cstring>
 #include <limits>
 #include <optional>
 #include <string>
 #include <string_view>
 
+#include "runtime/eight_digits.h"
+
 namespace tavimor {
 
 namespace {
 
-// A whole number up to 2^53 and a power of ten up to 10^22 are both exact doubles, so that one multiplication or
-// division rounds the numeral correctly (Clinger, How to Read Floating Point Numbers Accurately, 1990).
-constexpr std::uint64_t kLargestExactWhole = std::uint64_t{1} << std::numeric_limits<double>::digits;
-constexpr std::array<double, 23> kExactPowersOfTen = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
-                                                      1e8,  1e9,  1e10, 1e11, 1e12, 1e13, 1e14, 1e15,
-                                                      1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
 constexpr int kLargestExactPower = static_cast<int>(kExactPowersOfTen.size()) - 1;
 constexpr int kDigitsInWord = std::numeric_limits<std::uint64_t>::digits10;  // 19: no overflow up to here
 constexpr int kExponentLimit = 100000000;  // more than a text's digits can make up for; ten times it is an int still
 
 constexpr std::string_view kDigitsOfLargest = "179769313486232";  // as a text of 15 digits shows them
-
-constexpr std::array<std::uint64_t, 9> kPowersOfTen = {1, 10, 100, 1000, 10000, 100000, 1000000, 10000000, 100000000};
 
 struct Digits {
   std::uint64_t whole = 0;  // the digits as one whole number, valid for up to kDigitsInWord of them
@@ -35,27 +27,6 @@ struct Digits {
 };
 
 bool isDigit(char c) { return c >= '0' && c <= '9'; }
-
-// Eight characters as one word, the first one in the lowest byte, each less the character '0': a digit becomes its
-// value, anything else more than 9.
-std::uint64_t eightCharacters(const char* at) {
-  std::uint64_t word = 0;
-  std::memcpy(&word, at, sizeof word);
-  return word ^ 0x3030303030303030;
-}
-
-// Marks the bytes above 9, those that were no digits, in their high bits. Below the first mark all are exact: a byte
-// can carry only into those that stand for later characters.
-std::uint64_t marksOfOthers(std::uint64_t word) { return ((word + 0x7676767676767676) | word) & 0x8080808080808080; }
-
-// Neighbouring digits are joined to pairs, the pairs to fours, the fours to eight, each step within one word.
-std::uint64_t eightDigitsValue(std::uint64_t word) {
-  constexpr std::uint64_t pairs = 0x000000FF000000FF;
-  word = word * 10 + (word >> 8);
-  return ((word & pairs) * (100 + (std::uint64_t{1000000} << 32)) +
-          ((word >> 16) & pairs) * (1 + (std::uint64_t{10000} << 32))) >>
-         32;
-}
 
 const char* scanDigitByDigit(const char* at, const char* last, Digits& digits) {
   const char* const first = at;
@@ -77,9 +48,7 @@ const char* scanEightByEight(const char* at, const char* last, Digits& digits) {
         continue;
       }
       const int count = std::countr_zero(marks) / 8;
-      // Zeros are shifted in before the digits; in two steps, since 64 places at once are not defined.
-      const std::uint64_t value = eightDigitsValue(word << 4 * (8 - count) << 4 * (8 - count));
-      digits.whole = digits.whole * kPowersOfTen[count] + value;
+      digits.whole = digits.whole * kPowersOfTen[count] + firstDigitsValue(word, count);
       digits.count += count;
       return at + count;
     }

@@ -1,13 +1,18 @@
 #pragma once
 
 #include <cstddef>
-#include <vector>
+#include <span>
 
 namespace tavimor {
 
-/// Reads the lines from `first` on that hold one number each exactly as OutputFile prints it, `most` of them at most,
-/// and appends their values. Returns the place behind the last one: before the first line of any other form and before
-/// one that `last` cuts off. This is the fast way through the long stretches of a values file.
-const char* readPrintLines(const char* first, const char* last, std::size_t most, std::vector<double>& numbers);
+struct PrintLines {
+  const char* end;    // of the last line that was read
+  std::size_t count;  // of lines
+};
+
+/// Reads the lines from `first` on that hold one number each exactly as OutputFile prints it, as many as `numbers` has
+/// places at most. Ends before the first line of any other form and before one that `last` cuts off. This is the fast
+/// way through the long stretches of a values file.
+PrintLines readPrintLines(const char* first, const char* last, std::span<double> numbers);
 
 }  // namespace tavimor

@@ -24,9 +24,8 @@ class InputFileFields : public test::FolderTest {
   }
 
   static std::vector<double> read(InputFile& file, std::size_t count) {
-    std::vector<double> numbers;
-    file.readDoubles("a number", count,
-                     [&](std::span<const double> some) { numbers.insert(numbers.end(), some.begin(), some.end()); });
+    std::vector<double> numbers(count);
+    file.readDoubles("a number", numbers);
     return numbers;
   }
 

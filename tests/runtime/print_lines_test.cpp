@@ -24,7 +24,10 @@ struct Taken {
 Taken take(std::string_view text, std::size_t most = 1000) {
   Taken taken;
   const char* last = text.data() + text.size();
-  taken.rest = std::string(readPrintLines(text.data(), last, most, taken.numbers), last);
+  taken.numbers.resize(most);
+  const PrintLines lines = readPrintLines(text.data(), last, taken.numbers);
+  taken.numbers.resize(lines.count);
+  taken.rest = std::string(lines.end, last);
   return taken;
 }
 
@@ -32,13 +35,6 @@ TEST(PrintLines, AreTakenAsOutputFileWritesThem) {
   const Taken taken = take(" 1 \r\n-2.5 \r\n 1.5E-07 \r\n 0 \r\n");
   EXPECT_EQ(taken.numbers, (Numbers{1, -2.5, 1.5e-7, 0}));
   EXPECT_EQ(taken.rest, "");
-}
-
-TEST(PrintLines, AreAppended) {
-  Numbers numbers = {7};
-  const std::string_view text = " 8 \r\n";
-  readPrintLines(text.data(), text.data() + text.size(), 5, numbers);
-  EXPECT_EQ(numbers, (Numbers{7, 8}));
 }
 
 TEST(PrintLines, EndAtTheMostThatIsAskedFor) {
@@ -66,7 +62,11 @@ INSTANTIATE_TEST_SUITE_P(Lines, LineOfAnotherForm,
                                          OtherForm{"TwoBlanksInFront", "  2 \r\n"}, OtherForm{"Tab", "\t2 \r\n"},
                                          OtherForm{"TwoNumbers", " 2 4 \r\n"}, OtherForm{"Comma", " 2, \r\n"},
                                          OtherForm{"Blank", " \r\n"}, OtherForm{"Empty", "\r\n"},
-                                         OtherForm{"Word", " two \r\n"}, OtherForm{"Boolean", "#TRUE#\r\n"}),
+                                         OtherForm{"Word", " two \r\n"},
+                                         OtherForm{"LongFractionAndLineFeed", " .123456789012 \n"},
+                                         OtherForm{"LongFractionAndLetter", "-.12345678901x \r\n"},
+                                         OtherForm{"SixteenthLetter", " .123456789012345x \r\n"},
+                                         OtherForm{"Boolean", "#TRUE#\r\n"}),
                          [](const auto& test) { return test.param.name; });
 
 // Whatever the window of the file cuts off, the line is read from the next one.
@@ -92,6 +92,23 @@ TEST(PrintLines, GiveBackTheBitsThatTheirTextStandsFor) {
     written.push_back(std::stod(line));
   }
   EXPECT_EQ(take(text, written.size()).numbers, written);
+}
+
+// The usual form, with its neighbours: up to two digits before the point and sixteen behind it.
+TEST(PrintLines, GiveTheValuesOfNumeralsOfEveryLength) {
+  std::string text;
+  Numbers written;
+  const std::string digits = "9876543210123456";
+  for (const char* sign : {" ", "-"})
+    for (const char* whole : {"", "7", "90", "123"})
+      for (std::size_t count = 0; count <= digits.size(); ++count) {
+        const std::string number = whole + ("." + digits.substr(0, count));
+        if (number == ".") continue;
+        text += sign + number + " \r\n";
+        written.push_back(std::stod(sign + number));
+      }
+  const Taken taken = take(text + std::string(30, ' '), written.size());
+  EXPECT_EQ(taken.numbers, written);
 }
 
 }  // namespace
