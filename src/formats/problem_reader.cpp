@@ -7,11 +7,11 @@
 #include <span>
 #include <utility>
 
+#include "formats/function_reader.h"
 #include "formats/readable_pair.h"
 #include "model/spec_fields.h"
 #include "model/value_lists.h"
 #include "platform/file_query.h"
-#include "platform/memory.h"
 #include "runtime/bad_file.h"
 #include "runtime/input_file.h"
 #include "runtime/number_text.h"
@@ -44,12 +44,6 @@ void requireRoom(const InputFile& file, const PerVariable<Long>& last, const std
               "room for " + std::to_string(file.mostFieldsLeft()) + " at most");
 }
 
-void readInOrder(InputFile& file, const char* item, double* target, std::size_t count) {
-  file.readDoubles(item, count, [&](std::span<const double> numbers) {
-    target = std::copy(numbers.begin(), numbers.end(), target);
-  });
-}
-
 std::string readRecord(InputFile& file, Problem& problem, Long v) {
   problem.VarName[v] = file.readText("the name of a variable");
   problem.LowerLimit[v] = file.readDouble("the lower limit");
@@ -66,7 +60,7 @@ std::string readRecord(InputFile& file, Problem& problem, Long v) {
 void readCoefficients(InputFile& file, const PerVariable<Long>& Degree, Table4& Coef) {
   requireRoom(file, Degree, "coefficients");
   Coef.redim(Degree);
-  readInOrder(file, "a coefficient", Coef.data(), Coef.size());  // first index fastest, as in memory
+  file.readDoubles("a coefficient", {Coef.data(), Coef.size()});  // first index fastest, as in memory
 }
 
 void readSpecification(InputFile file, StoredProblem& stored) {
@@ -87,61 +81,24 @@ void readCounts(InputFile& file, Problem& problem) {
   requireRoom(file, problem.LastPoint, "function values");
 }
 
-void readValueLists(InputFile& file, Problem& problem) {
-  for (Long d = 0; d < kMaxVariables; ++d) {
-    ResizeVarValues(problem, d);
-    if (problem.LastPoint[d] != 0)
-      readInOrder(file, "a value of a variable", valueList(problem, d).data(), valueList(problem, d).size());
+// The list grows as it is read: what a part of it holds before is written while it is in the cache.
+void readList(InputFile& file, Long last, std::vector<double>& values) {
+  constexpr std::size_t part = 4096;
+  const std::size_t count = static_cast<std::size_t>(last) + 1;
+  values.clear();
+  while (values.size() < count) {
+    const std::size_t first = values.size();
+    values.resize(std::min(first + part, count));
+    file.readDoubles("a value of a variable", std::span(values).subspan(first));
   }
 }
 
-constexpr std::size_t kPlacesAhead = 16;
-
-// Puts numbers that come with the last index fastest into their places in the table, whose first index is fastest.
-class TableFiller {
- public:
-  explicit TableFiller(Table4& table) : table_(table), run_(lineAxis(table)) {}
-
-  void put(std::span<const double> numbers) {
-    for (const double number : numbers) {
-      line_[at_ * stride_] = number;
-      prefetch(line_ + (at_ + kPlacesAhead) * stride_);
-      if (++at_ == length_) nextLine();
-    }
+void readValueLists(InputFile& file, Problem& problem) {
+  for (Long d = 0; d < kMaxVariables; ++d) {
+    ReserveVarValues(problem, d);
+    if (problem.LastPoint[d] != 0) readList(file, problem.LastPoint[d], valueList(problem, d));
+    ResizeVarValues(problem, d);
   }
-
- private:
-  // A run of numbers is a line along the last axis that has more than one value.
-  static int lineAxis(const Table4& table) {
-    int axis = kMaxVariables - 1;
-    while (axis > 0 && table.last()[axis] == 0) --axis;
-    return axis;
-  }
-
-  void nextLine() {
-    at_ = 0;
-    for (int k = run_ - 1; k >= 0; --k) {
-      if (++index_[k] <= last_[k]) break;
-      index_[k] = 0;
-    }
-    line_ = &table_(index_[0], index_[1], index_[2], index_[3]);
-  }
-
-  Table4& table_;
-  int run_;
-  std::size_t stride_ = table_.stride(run_);
-  std::size_t length_ = table_.extent(run_);
-  PerVariable<Long> last_ = table_.last();
-  PerVariable<Long> index_{};
-  double* line_ = table_.data();
-  std::size_t at_ = 0;
-};
-
-void readFunction(InputFile& file, Problem& problem) {
-  problem.F.redim(problem.LastPoint);
-  TableFiller filler(problem.F);
-  file.readDoubles("a value of the function", problem.F.size(),
-                   [&](std::span<const double> numbers) { filler.put(numbers); });
 }
 
 void readStatistics(InputFile& file, StoredProblem& stored) {
@@ -165,7 +122,8 @@ void readValues(InputFile file, StoredProblem& stored) {
   takeLastVar(readLastVar(file), stored);
   readCounts(file, stored.problem);
   readValueLists(file, stored.problem);
-  readFunction(file, stored.problem);
+  stored.problem.F.redim(stored.problem.LastPoint);
+  readFunction(file, stored.problem.F);
   if (stored.fit.FitDone) readStatistics(file, stored);
   file.expectEnd();
 }

@@ -37,7 +37,10 @@ std::size_t tableSize(const PerVariable<Long>& last) {
 void Table4::redim(const PerVariable<Long>& last) {
   const std::size_t size = tableSize(last);
   try {
-    elements_.assign(size, 0.0);
+    if (size == elements_.size())
+      std::fill(elements_.begin(), elements_.end(), 0.0);
+    else
+      elements_ = Elements(size);
   } catch (const std::bad_alloc&) {
     throw tooLarge(last);
   }

@@ -1,7 +1,8 @@
 #pragma once
 
 #include <cstddef>
-#include <memory>
+#include <cstdlib>
+#include <new>
 #include <vector>
 
 #include "model/per_variable.h"
@@ -11,7 +12,8 @@
 namespace tavimor {
 
 /// Memory for tables: a large one comes in large pages where the system has them, since touching each of its small ones
-/// for the first time would take longer than the whole fit.
+/// for the first time would take longer than the whole fit. It comes as zeros, so that an element that is made without
+/// a value is one already.
 template <class T>
 struct TableAllocator {
   using value_type = T;
@@ -21,11 +23,15 @@ struct TableAllocator {
   TableAllocator(const TableAllocator<U>&) {}
 
   T* allocate(std::size_t count) {
-    T* memory = std::allocator<T>().allocate(count);
+    void* memory = std::calloc(count, sizeof(T));
+    if (memory == nullptr) throw std::bad_alloc();
     preferLargePages(memory, count * sizeof(T));
-    return memory;
+    return static_cast<T*>(memory);
   }
-  void deallocate(T* memory, std::size_t count) { std::allocator<T>().deallocate(memory, count); }
+  void deallocate(T* memory, std::size_t /*count*/) { std::free(memory); }
+
+  void construct(T* /*element*/) {}
+  void construct(T* element, const T& value) { *element = value; }
   bool operator==(const TableAllocator&) const = default;
 };
 
@@ -59,10 +65,12 @@ class Table4 {
   const double* data() const { return elements_.data(); }
 
  private:
+  using Elements = std::vector<double, TableAllocator<double>>;
+
   std::size_t offset(const PerVariable<Long>& index) const;
 
   PerVariable<Long> last_{};
-  std::vector<double, TableAllocator<double>> elements_;
+  Elements elements_;
 };
 
 /// The elements of a table with these bounds. Errors: as Table4.

@@ -45,7 +45,7 @@ std::vector<double> gridPoint(const Problem& problem, const PerVariable<Long>& i
   return point;
 }
 
-void ResizeVarValues(Problem& problem, Long v) {
+void ReserveVarValues(Problem& problem, Long v) {
   if (v < 0 || v >= kMaxVariables) return;
   const Long last = problem.LastPoint[v];
   if (last < 0) throw RunTimeError(ErrorNumber::SubscriptOutOfRange, {}, nameOf(problem, v) + " has no values");
@@ -54,10 +54,15 @@ void ResizeVarValues(Problem& problem, Long v) {
   try {
     values.reserve(count);
     preferLargePages(values.data(), count * sizeof(double));  // before they are touched
-    values.resize(count);
   } catch (const std::bad_alloc&) {
     throw RunTimeError(ErrorNumber::OutOfMemory, {}, "for the values of " + nameOf(problem, v));
   }
+}
+
+void ResizeVarValues(Problem& problem, Long v) {
+  if (v < 0 || v >= kMaxVariables) return;
+  ReserveVarValues(problem, v);
+  valueList(problem, v).resize(static_cast<std::size_t>(problem.LastPoint[v]) + 1);
 }
 
 void generateSpacedValues(Problem& problem, Long v) {

@@ -17,6 +17,10 @@ double valueOf(const Problem& problem, Long v, Long i);
 /// The point of the grid with these indices, a value per declared variable. Errors: as valueOf.
 std::vector<double> gridPoint(const Problem& problem, const PerVariable<Long>& index);
 
+/// Takes the memory that variable v's LastPoint[v] + 1 values need. A v outside 0..3 changes nothing.
+/// Errors: as ResizeVarValues.
+void ReserveVarValues(Problem& problem, Long v);
+
 /// Gives variable v LastPoint[v] + 1 values: the existing ones stay, new ones are 0. A v outside 0..3 changes nothing.
 /// Errors: SubscriptOutOfRange for a negative LastPoint, OutOfMemory.
 void ResizeVarValues(Problem& problem, Long v);
