@@ -12,6 +12,7 @@ FitOutcome fitUnlessCancelled(const Problem& problem, const AnalysisOptions& opt
   FitOptions how;
   how.threads = options.threads;
   how.instructionSet = options.instructionSet;
+  how.fittedValues = FittedValues::PassedThrough;
   how.isCalledOff = options.cancelled;
   FitOutcome outcome = fit(problem, how);
   goOn(options);

@@ -14,6 +14,7 @@ FitOutcome fitShowingProgress(OpenedProblem& opened) {
   CaptureSpecs(opened.problem, opened.fields);
   ProgressBar bar;
   FitOptions options;
+  options.fittedValues = FittedValues::PassedThrough;  // no command reads them
   options.progress = [&](double share) { bar.show(share); };
   FitOutcome outcome = fit(opened.problem, options, opened.fit);
   opened.fit = std::exchange(outcome.fit, {});

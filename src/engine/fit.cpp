@@ -94,6 +94,20 @@ void endWithoutRoom(const Problem& problem, Long variable, const FitOptions& opt
   if (!singular) outcome.ErrNumber = static_cast<Long>(ErrorNumber::SubscriptOutOfRange);
 }
 
+// The statistics, and the fitted values that they rest on where these are kept.
+StatisticsOutcome statisticsOf(const Problem& problem, const FitOptions& options, Fit& fit) {
+  const double sumGiven = sumOfGiven(problem.F);
+  const auto withStrips = [&](const FittedStrip& strips) {
+    return fitStatistics(problem.F, strips, sumGiven, problem.NumGridPoints, fit, options);
+  };
+  if (options.fittedValues == FittedValues::Kept) {
+    fit.FitGrid = FitOnGrid(problem, fit.Coef, options);
+    return withStrips(stripsOf(fit.FitGrid));
+  }
+  const FittedRows rows(problem, fit.Coef, options);
+  return withStrips([&rows](std::size_t first, std::span<double> turned) { rows.strip(first, turned); });
+}
+
 void fitInto(const Problem& problem, const FitOptions& options, FitOutcome& outcome) {
   if (const auto variable = axisWithoutRoom(problem)) return endWithoutRoom(problem, *variable, options, outcome);
   for (Long k = 0; k <= problem.LastVar; ++k) requireNormalMatrix(problem.Degree[k]);
@@ -105,9 +119,7 @@ void fitInto(const Problem& problem, const FitOptions& options, FitOutcome& outc
     outcome.variable = *singular;
     return;
   }
-  const double sumGiven = sumOfGiven(problem.F);
-  fit.FitGrid = FitOnGrid(problem, fit.Coef, options);
-  const StatisticsOutcome statistics = fitStatistics(problem.F, fit.FitGrid, sumGiven, problem.NumGridPoints, fit);
+  const StatisticsOutcome statistics = statisticsOf(problem, options, fit);
   static_cast<Statistics&>(fit) = statistics.figures;
   outcome.ErrNumber = statistics.ErrNumber;
   fit.FitDone = true;

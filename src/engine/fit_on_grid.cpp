@@ -6,6 +6,7 @@
 #include "engine/called_off.h"
 #include "engine/lane_sums.h"
 #include "model/grid_indices.h"
+#include "model/table_strips.h"
 #include "model/value_lists.h"
 
 namespace tavimor {
@@ -70,6 +71,29 @@ void transformAxis(const Problem& problem, Long k, LineTransform transform, Tabl
   forEachIndex(lines, [&](const PerVariable<Long>& first) { transform.apply(&grid(first)); });
 }
 
+void evaluateRowsPlainly(const RowPowers& powers, const double* coefficients, std::size_t length, double* values) {
+  for (std::size_t row = 0; row < powers.rows; ++row)
+    for (std::size_t n = 0; n < length; ++n) {
+      double sum = 0.0;
+      for (std::size_t a = 0; a < powers.terms; ++a)
+        sum = sum + coefficients[a * length + n] * powers.of[a * powers.rows + row];
+      values[row * length + n] = sum;
+    }
+}
+
+// By repeated multiplication, as everywhere.
+void setPowers(const Axis& points, std::size_t terms, std::vector<double>& powers) {
+  powers.resize(terms * points.count);
+  for (std::size_t row = 0; row < points.count; ++row) {
+    const double d = points.values[row] - points.centre;
+    double power = 1.0;
+    for (std::size_t a = 0; a < terms; ++a) {
+      powers[a * points.count + row] = power;
+      power = power * d;
+    }
+  }
+}
+
 }  // namespace
 
 double Deviation(const Problem& problem, Long k, Long i) {
@@ -77,13 +101,47 @@ double Deviation(const Problem& problem, Long k, Long i) {
   return valueOf(problem, k, i) - problem.Centre[k];
 }
 
-Table4 FitOnGrid(const Problem& problem, const Table4& Coef, const FitOptions& options) {
+namespace {
+
+// Values along the axes from `firstAxis` on, coefficients along those before it.
+Table4 fitAlongAxes(const Problem& problem, const Table4& Coef, Long firstAxis, const FitOptions& options) {
+  PerVariable<Long> last = problem.LastPoint;
+  for (Long k = 0; k < firstAxis; ++k) last[k] = problem.Degree[k];
   Table4 grid;
-  grid.redim(problem.LastPoint);
+  grid.redim(last);
   forEachIndex(Coef.last(), [&](const PerVariable<Long>& j) { grid(j) = Coef(j); });
-  for (Long k = problem.LastVar; k >= 0; --k)
+  for (Long k = problem.LastVar; k >= firstAxis; --k)
     transformAxis(problem, k, LineTransform(axisOf(problem, k), grid.stride(k), Coef.extent(k), options), grid);
   return grid;
+}
+
+}  // namespace
+
+Table4 FitOnGrid(const Problem& problem, const Table4& Coef, const FitOptions& options) {
+  return fitAlongAxes(problem, Coef, 0, options);
+}
+
+FittedRows::FittedRows(const Problem& problem, const Table4& Coef, const FitOptions& options)
+    : axis_(axisOf(problem, 0)), terms_(Coef.extent(0)) {
+  const LaneSums* lanes = laneSums(options.instructionSet);
+  evaluateLine_ = lanes != nullptr ? lanes->evaluateLine : evaluatePlainly;
+  evaluateRows_ = lanes != nullptr ? lanes->evaluateRows : evaluateRowsPlainly;
+  const Table4 coefficients = fitAlongAxes(problem, Coef, 1, options);
+  length_ = coefficients.size() / terms_;
+  rows_.resize(coefficients.size());
+  turnStrip(coefficients, 0, rows_);
+}
+
+void FittedRows::strip(std::size_t first, std::span<double> turned) const {
+  const Axis points{axis_.values + first, turned.size() / length_, axis_.centre};
+  if (length_ == 1) return evaluateLine_(rows_.data(), terms_, points, turned.data());
+  std::vector<double> powers;
+  for (std::size_t row = 0; row < points.count;) {
+    const std::size_t rows = points.count - row < kRowsTogether ? 1 : kRowsTogether;
+    setPowers({points.values + row, rows, points.centre}, terms_, powers);
+    evaluateRows_({powers.data(), terms_, rows}, rows_.data(), length_, turned.data() + row * length_);
+    row += rows;
+  }
 }
 
 }  // namespace tavimor

@@ -11,10 +11,15 @@ enum class InstructionSet { Plain, Baseline, Avx2, Avx512 };
 InstructionSet widestInstructionSet();
 bool hasInstructionSet(InstructionSet set);
 
-/// How a fit is to be run; the result does not depend on it.
+/// Whether a fit holds its values at the points of the grid (FitGrid) when it is done. The statistics need them only
+/// for a moment; without them a fit takes half the memory, and less time.
+enum class FittedValues { Kept, PassedThrough };
+
+/// How a fit is to be run; the other results do not depend on it.
 struct FitOptions {
   int threads = 0;  // 0: as many as pay
   InstructionSet instructionSet = widestInstructionSet();
+  FittedValues fittedValues = FittedValues::Kept;
   std::function<void(double)> progress;  // told the share of the work that is done, 0..1
   std::function<bool()> isCalledOff;     // asked now and then, from any thread of the fit: true ends it without result
 };

@@ -29,6 +29,14 @@ struct Columns {
   std::size_t first, end;
 };
 
+/// The powers d^0, d^1, ... of the deviations of some rows, kRowsTogether of them or 1: of[a * rows + row].
+inline constexpr std::size_t kRowsTogether = 4;
+struct RowPowers {
+  const double* of;
+  std::size_t terms;
+  std::size_t rows;
+};
+
 /// The routines for one instruction set.
 struct LaneSums {
   std::size_t lanes;
@@ -53,6 +61,10 @@ struct LaneSums {
 
   /// line[i] = sum over a of coefficients[a] * d_i^a, a from 0 on, at every value of the axis.
   void (*evaluateLine)(const double* coefficients, std::size_t terms, const Axis& axis, double* line);
+
+  /// values[row * length + n] = sum over a of coefficients[a * length + n] * d_row^a, a from 0 on, for n from 0 to
+  /// length - 1.
+  void (*evaluateRows)(const RowPowers& powers, const double* coefficients, std::size_t length, double* values);
 };
 
 /// Null for Plain: there the plain loops do it all.

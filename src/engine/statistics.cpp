@@ -4,8 +4,9 @@
 #include <cmath>
 #include <vector>
 
+#include "engine/called_off.h"
 #include "engine/resume_next.h"
-#include "platform/memory.h"
+#include "model/table_strips.h"
 #include "runtime/checked_arithmetic.h"
 
 namespace tavimor {
@@ -18,38 +19,12 @@ double sumOfGiven(const Table4& f) {
 
 namespace {
 
-constexpr std::size_t kStripWidth = 8;      // a cache line of neighbouring first indices
-constexpr std::size_t kLongFirstAxis = 64;  // with a shorter one a whole strip would take too much memory
-
-// Calls body(offset) for the points whose first index is 0, in the order of the sums: i1 outermost, i3 innermost.
-template <class Body>
-void forOuterAxes(const Table4& table, Body body) {
-  const std::size_t n1 = table.extent(1), n2 = table.extent(2), n3 = table.extent(3);
-  for (std::size_t i1 = 0; i1 < n1; ++i1)
-    for (std::size_t i2 = 0; i2 < n2; ++i2)
-      for (std::size_t i3 = 0; i3 < n3; ++i3) body(table.stride(1) * (i1 + n1 * (i2 + n2 * i3)));
-}
-
 // Adds points in their order.
 class PointSums {
  public:
   explicit PointSums(double avgGiven) : avgGiven_(avgGiven) {}
 
   const GridSums& sums() const { return sums_; }
-
-  // The points of one first index of a table, where they lie.
-  void addFirstIndex(const Table4& f, const Table4& fitGrid, std::size_t i0) {
-    GridSums sums = sums_;
-    forOuterAxes(f, [&](std::size_t offset) {
-      const double given = f.data()[offset + i0];
-      const double e = fitGrid.data()[offset + i0];
-      sums.SumEstimated += e;
-      sums.SumSqRegression += square(avgGiven_ - e);
-      sums.SumRes2 += square(given - e);
-      sums.SumSqTotal += square(avgGiven_ - given);
-    });
-    sums_ = sums;
-  }
 
   // A run of points. The squares are independent of each other, the sums are four chains: apart, both go at their best.
   void addRun(const double* f, const double* e, std::size_t count) {
@@ -80,47 +55,42 @@ class PointSums {
   GridSums sums_;
 };
 
-// A strip of the table turned, so that the points of each first index follow one another. The next strip lies beside
-// this one in memory: it is asked for at the same time.
-void turnStrip(const Table4& table, std::size_t first, std::size_t width, std::vector<double>& turned) {
-  const std::size_t length = table.size() / table.extent(0);
-  turned.resize(width * length);
-  std::size_t n = 0;
-  forOuterAxes(table, [&](std::size_t offset) {
-    const double* from = table.data() + offset + first;
-    prefetch(from + kStripWidth);
-    for (std::size_t i = 0; i < width; ++i) turned[i * length + n] = from[i];
-    ++n;
-  });
+constexpr std::size_t kPointsInLine = 4096;
+
+// One line of points is cut into strips of some length. Of a grid's points a strip holds half at most, so that the
+// strips of the given and of the fitted values together take no more memory than a table does.
+std::size_t stripWidth(const Table4& f) {
+  if (f.extent(0) == f.size()) return kPointsInLine;
+  return std::clamp<std::size_t>(f.extent(0) / 2, 1, kStripWidth);
 }
 
 }  // namespace
 
-GridSums sumOverGrid(const Table4& f, const Table4& fitGrid, double avgGiven) {
-  const std::size_t n0 = f.extent(0);
+FittedStrip stripsOf(const Table4& fitGrid) {
+  return [&fitGrid](std::size_t first, std::span<double> turned) { turnStrip(fitGrid, first, turned); };
+}
+
+GridSums sumOverGrid(const Table4& f, const FittedStrip& fitted, double avgGiven, const FitOptions& options) {
+  const std::size_t n0 = f.extent(0), length = f.size() / n0, width = std::min(stripWidth(f), n0);
+  std::vector<double> given(width * length), estimated(width * length);
   PointSums sums(avgGiven);
-  if (n0 == f.size()) {
-    sums.addRun(f.data(), fitGrid.data(), n0);
-  } else if (n0 < kLongFirstAxis) {
-    for (std::size_t i0 = 0; i0 < n0; ++i0) sums.addFirstIndex(f, fitGrid, i0);
-  } else {
-    std::vector<double> stripOfF, stripOfFit;
-    for (std::size_t i0 = 0; i0 < n0; i0 += kStripWidth) {
-      turnStrip(f, i0, std::min(kStripWidth, n0 - i0), stripOfF);
-      turnStrip(fitGrid, i0, std::min(kStripWidth, n0 - i0), stripOfFit);
-      sums.addRun(stripOfF.data(), stripOfFit.data(), stripOfF.size());
-    }
+  for (std::size_t first = 0; first < n0; first += width) {
+    endIfCalledOff(options);
+    const std::size_t points = std::min(width, n0 - first) * length;
+    turnStrip(f, first, std::span(given).first(points));
+    fitted(first, std::span(estimated).first(points));
+    sums.addRun(given.data(), estimated.data(), points);
   }
   return sums.sums();
 }
 
-StatisticsOutcome fitStatistics(const Table4& f, const Table4& fitGrid, double sumGiven, Long n,
-                                const Statistics& earlier) {
+StatisticsOutcome fitStatistics(const Table4& f, const FittedStrip& fitted, double sumGiven, Long n,
+                                const Statistics& earlier, const FitOptions& options) {
   StatisticsOutcome outcome{earlier};
   Statistics& figures = outcome.figures;
   const auto set = [&](double& figure, auto formula) { resumeNext(outcome.ErrNumber, [&] { figure = formula(); }); };
   set(figures.AvgGiven, [&] { return quotient(sumGiven, n); });
-  const GridSums sums = sumOverGrid(f, fitGrid, figures.AvgGiven);
+  const GridSums sums = sumOverGrid(f, fitted, figures.AvgGiven, options);
   figures.SumRes2 = sums.SumRes2;
   set(figures.AvgEstimated, [&] { return quotient(sums.SumEstimated, n); });
   set(figures.CorrCoef,

@@ -4,6 +4,8 @@
 
 #include <cmath>
 
+#include "model/table_strips.h"
+#include "model/value_lists.h"
 #include "runtime/run_time_error.h"
 #include "support/problem.h"
 
@@ -60,6 +62,53 @@ TEST(FitOnGrid, TakesADegreeEqualToTheLastIndex) {
   model.FitGrid = FitOnGrid(model, model.Coef);
   EXPECT_EQ(model.FitGrid(2, 0, 0, 0), 9.0);
 }
+
+struct Extents {
+  const char* name;
+  PerVariable<Long> lastPoint;
+  PerVariable<Long> degree;
+};
+
+class RowsOfShape : public testing::TestWithParam<Extents> {};
+
+TEST_P(RowsOfShape, AreTheValuesOnTheGridToTheBit) {
+  Dimension model;
+  model.LastVar = 3;
+  model.LastPoint = GetParam().lastPoint;
+  model.Degree = GetParam().degree;
+  for (Long k = 0; k < kMaxVariables; ++k) {
+    ResizeVarValues(model, k);
+    for (Long i = 0; i <= model.LastPoint[k]; ++i) valueOf(model, k, i) = std::sin(k + 0.37 * i);
+    model.Centre[k] = 0.1 * k;
+  }
+  model.Coef.redim(model.Degree);
+  for (std::size_t n = 0; n < model.Coef.size(); ++n) model.Coef.data()[n] = std::cos(static_cast<double>(n));
+  for (const InstructionSet set :
+       {InstructionSet::Plain, InstructionSet::Baseline, InstructionSet::Avx2, InstructionSet::Avx512}) {
+    if (!hasInstructionSet(set)) continue;
+    FitOptions options;
+    options.instructionSet = set;
+    const Table4 grid = FitOnGrid(model, model.Coef, options);
+    const FittedRows rows(model, model.Coef, options);
+    Table4 filled;
+    filled.redim(model.LastPoint);
+    const std::size_t length = grid.size() / grid.extent(0);
+    std::vector<double> turned;
+    for (std::size_t first = 0; first < grid.extent(0); first += 5) {  // four rows together, and one alone
+      turned.resize(std::min<std::size_t>(5, grid.extent(0) - first) * length);
+      rows.strip(first, turned);
+      putStrip(turned, first, filled);
+    }
+    EXPECT_TRUE(std::equal(grid.data(), grid.data() + grid.size(), filled.data())) << static_cast<int>(set);
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    FittedRows, RowsOfShape,
+    testing::Values(Extents{"OneVariable", {40, 0, 0, 0}, {7, 0, 0, 0}}, Extents{"Two", {12, 30, 0, 0}, {3, 5, 0, 0}},
+                    Extents{"Three", {6, 4, 9, 0}, {2, 4, 3, 0}}, Extents{"Four", {4, 3, 5, 6}, {4, 1, 2, 3}},
+                    Extents{"ShortRows", {50, 1, 0, 0}, {9, 1, 0, 0}}, Extents{"Constant", {9, 9, 0, 0}, {0, 0, 0, 0}}),
+    [](const auto& test) { return test.param.name; });
 
 }  // namespace
 }  // namespace tavimor

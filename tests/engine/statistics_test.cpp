@@ -26,7 +26,7 @@ Dimension withFittedValues(const std::vector<double>& given, const std::vector<d
 
 void setStatistics(Dimension& model) {
   const StatisticsOutcome outcome =
-      fitStatistics(model.F, model.FitGrid, sumOfGiven(model.F), model.NumGridPoints, model);
+      fitStatistics(model.F, stripsOf(model.FitGrid), sumOfGiven(model.F), model.NumGridPoints, model);
   static_cast<Statistics&>(model) = outcome.figures;
   model.ErrNumber = outcome.ErrNumber;
 }
