@@ -30,8 +30,8 @@ const char* readUsualLine(const char* at, double& number) {
     return nullptr;
   const int count = std::countr_zero(endMark) / 8;
   const char* end = fraction + 8 + count;
-  const std::uint64_t whole = (digit * kPowersOfTen[8] + eightDigitsValue(first)) * kPowersOfTen[count] +
-                              firstDigitsValue(second, count);
+  const std::uint64_t whole =
+      (digit * kPowersOfTen[8] + eightDigitsValue(first)) * kPowersOfTen[count] + firstDigitsValue(second, count);
   if (!isLineEnd(end) || whole > kLargestExactWhole) return nullptr;
   const double magnitude = static_cast<double>(whole) / kExactPowersOfTen[8 + count];
   number = sign == '-' ? -magnitude : magnitude;
