@@ -29,6 +29,17 @@ TextBox::TextBox(const QString& name, QWidget* parent) : QLineEdit(parent) {
   connect(this, &QLineEdit::textChanged, this, &TextBox::Change);
 }
 
+// Some desktops know Ctrl+E as a way to the end of a field, as the key End is: a menu that has that shortcut comes
+// first.
+bool TextBox::event(QEvent* event) {
+  if (event->type() == QEvent::ShortcutOverride &&
+      static_cast<QKeyEvent*>(event)->keyCombination() == (Qt::CTRL | Qt::Key_E)) {
+    event->ignore();
+    return true;
+  }
+  return QLineEdit::event(event);
+}
+
 void TextBox::focusInEvent(QFocusEvent* event) {
   QLineEdit::focusInEvent(event);
   if (holdsFocus_) return;

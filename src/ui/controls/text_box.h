@@ -47,6 +47,7 @@ class TextBox : public QLineEdit {
   void LostFocus();
 
  protected:
+  bool event(QEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;

@@ -74,6 +74,9 @@ void frmTavimor::txtVarNams_Validate(bool& cancel) {
 void frmTavimor::txtVarNams_LostFocus() {
   if (model_.LoadingFile) return;
   txtVarNams->setEnabled(false);
+  // Where the number was never entered, it is 1: a click on the names of a window that is not active passes it over.
+  // The blocks would not follow another number now.
+  txtOrder->setEnabled(false);
   namesGiven();
   EditLimit(model_.CurVar - 1);
 }

@@ -144,6 +144,24 @@ TEST_F(Names, BlanksStayPartOfThem) {
   EXPECT_EQ(label("lblVar(1)").text(), " y");
 }
 
+// A click on the names of a window that has never been active passes the number over.
+TEST_F(Names, GivenBeforeTheNumberFixIt) {
+  Dimension fresh;
+  QPointer<frmTavimor> another = new frmTavimor(fresh);
+  auto* names = another->findChild<QLineEdit*>("txtVarNams");
+  names->setFocus();
+  another->show();
+  another->activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(another));
+  ASSERT_TRUE(names->hasFocus());
+  QTest::keyClicks(names, "x");
+  QTest::keyClick(names, Qt::Key_Tab);
+  EXPECT_FALSE(names->isEnabled());
+  EXPECT_FALSE(another->findChild<QLineEdit*>("txtOrder")->isEnabled());
+  EXPECT_EQ(fresh.LastVar, 0);
+  delete another;
+}
+
 TEST_F(Names, LeavingThemSwitchesTheMenusAndTheBlocksOn) {
   declare("2", "x,y");
   for (const char* name : {"mnuSave", "mnuSaveAs", "mnuPrint"}) EXPECT_TRUE(item(name).isEnabled()) << name;
