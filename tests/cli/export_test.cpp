@@ -105,7 +105,7 @@ TEST_F(ExportCommand, TellsHowManyDigitsAreRight) {
   const std::string digits = "Right digits of the coefficients, of 15: ";
   EXPECT_THAT(exported({"--to", "r"}).out, HasSubstr("# " + digits + "15 in the worst"));
   EXPECT_THAT(exported({"--to", "r", "--no-check"}).out, testing::Not(HasSubstr(digits)));
-  EXPECT_THAT(tavimorCli({"export", filip, "--to", "c"}).out, HasSubstr("; in each (- for noise):\n//   "));
+  EXPECT_THAT(tavimorCli({"export", filip, "--to", "c"}).out, HasSubstr("// In each of them, - for noise:\n//   "));
   tavimorCli({"fit", filip, "--centre", "0", "--no-check", "-o", folder / "far"});
   EXPECT_THAT(tavimorCli({"export", folder / "far", "--to", "c"}).err, HasSubstr("no digit of the worst coefficient"));
   EXPECT_THAT(tavimorCli({"export", filip, "--to", "c", "--precise"}).out,

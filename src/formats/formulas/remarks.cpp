@@ -10,6 +10,7 @@ namespace {
 constexpr std::size_t kLongestName = 60;
 constexpr std::size_t kLongestReason = 160;
 constexpr Long kMostDigits = 15;
+constexpr std::size_t kDigitsALine = 20;
 
 // Harmless in every kind of comment.
 std::string inOneLine(const std::string& text, std::size_t characters) {
@@ -45,10 +46,14 @@ Lines digitsOf(const Formula& formula) {
   Lines lines = {"Right digits of the coefficients" + when + ", of 15: " + numberText(figures.worstDigits) +
                  " in the worst that is more than noise"};
   if (figures.worstDigits == kMostDigits) return lines;
-  lines.back() += "; in each (- for noise):";
-  Lines each;
-  for (const auto& digits : figures.digits) each.push_back(digits ? numberText(*digits) : "-");
-  for (std::string& line : wrapped(each, "  ")) lines.push_back(std::move(line));
+  lines.push_back("In each of them, - for noise:");
+  for (std::size_t n = 0; n < figures.digits.size(); ++n) {
+    const std::string digits = figures.digits[n] ? numberText(*figures.digits[n]) : "-";
+    if (n % kDigitsALine == 0)
+      lines.push_back("  " + digits);
+    else
+      lines.back() += ", " + digits;
+  }
   return lines;
 }
 

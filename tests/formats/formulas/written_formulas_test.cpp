@@ -60,10 +60,9 @@ TEST(WrittenText, OfARoundedFormulaStatesBoundAndLargestDifference) {
 TEST(WrittenText, TellsRightDigitsWhereTheyAreKnown) {
   FormulaOptions options{.name = "slope", .within = {}};
   options.figures = {"", 12, {15, 13, std::nullopt, 12}, {}};
-  EXPECT_THAT(
-      written("text", options),
-      HasSubstr("\nRight digits of the coefficients, of 15: 12 in the worst that is more than noise; in each (- "
-                "for noise):\n  15, 13, -, 12\n"));
+  EXPECT_THAT(written("text", options),
+              HasSubstr("\nRight digits of the coefficients, of 15: 12 in the worst that is more than noise\n"
+                        "In each of them, - for noise:\n  15, 13, -, 12\n"));
   options.figures = {"", 15, {15, 15, 15, 15}, {}};
   EXPECT_THAT(written("text", options), HasSubstr("of 15: 15 in the worst that is more than noise\n\nslope("));
 }
