@@ -1,9 +1,13 @@
 #include "runtime/number_text.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
 #include <limits>
+#include <string_view>
+
+#include "runtime/fifteen_digits.h"
 
 namespace tavimor {
 
@@ -12,10 +16,45 @@ namespace {
 constexpr int kSignificantDigits = 15;  // the most that always survive text -> double -> text:
 static_assert(std::numeric_limits<double>::digits10 == kSignificantDigits);
 
-std::string withoutLeadingZero(std::string text) {
-  const std::size_t zero = text.starts_with('-') ? 1 : 0;
-  if (text.compare(zero, 2, "0.") == 0) text.erase(zero, 1);
-  return text;
+constexpr std::size_t kMostCharacters = kRoomForDecimal + 2;  // a sign, a blank
+
+std::string_view wordFor(double value) {
+  if (std::isnan(value)) return "NAN";
+  return value < 0 ? "-INF" : "INF";
+}
+
+// In the form of writtenNumber, by the library, for any finite magnitude but 0.
+char* putByLibrary(double magnitude, char* to) {
+  char* const end =
+      std::to_chars(to, to + kMostCharacters, magnitude, std::chars_format::general, kSignificantDigits).ptr;
+  std::replace(to, end, 'e', 'E');
+  return to[0] == '0' ? std::copy(to + 1, end, to) : end;
+}
+
+// In the form of writtenNumber, at most kMostCharacters. Returns the end.
+char* putWritten(double value, char* to) {
+  if (!std::isfinite(value)) return to + wordFor(value).copy(to, kMostCharacters);
+  if (value == 0.0) {
+    *to = '0';
+    return to + 1;
+  }
+  if (value < 0) *to++ = '-';
+  const double magnitude = std::fabs(value);
+  const bool isUsual = magnitude >= kLeastMagnitude && magnitude < kMostMagnitude;
+  return isUsual ? putDecimal(fifteenDigits(magnitude), to) : putByLibrary(magnitude, to);
+}
+
+// In the form of printedNumber.
+char* putPrinted(double value, char* to) {
+  char* const end = putWritten(value, to + 1);
+  if (to[1] == '-') {
+    std::copy(to + 1, end, to);
+    end[-1] = ' ';
+    return end;
+  }
+  *to = ' ';
+  *end = ' ';
+  return end + 1;
 }
 
 std::string inPrintForm(std::string text) {
@@ -27,23 +66,30 @@ std::string inPrintForm(std::string text) {
 }  // namespace
 
 std::string numberText(double value) {
-  if (std::isnan(value)) return "NAN";
-  if (std::isinf(value)) return value < 0 ? "-INF" : "INF";
-  if (value == 0.0) return "0";
-  std::array<char, 32> buffer{};
-  const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, std::chars_format::general,
-                                 kSignificantDigits);
-  std::string text(buffer.data(), end.ptr);
-  if (const std::size_t exponent = text.find('e'); exponent != std::string::npos) text[exponent] = 'E';
+  std::string text = writtenNumber(value);
+  if (const std::size_t sign = text.starts_with('-') ? 1 : 0; text[sign] == '.') text.insert(sign, 1, '0');
   return text;
 }
 
 std::string numberText(Long value) { return std::to_string(value); }
 
-std::string writtenNumber(double value) { return withoutLeadingZero(numberText(value)); }
+std::string writtenNumber(double value) {
+  std::array<char, kMostCharacters> buffer;
+  return {buffer.data(), putWritten(value, buffer.data())};
+}
 std::string writtenNumber(Long value) { return numberText(value); }
 
-std::string printedNumber(double value) { return inPrintForm(writtenNumber(value)); }
+std::string printedNumber(double value) {
+  std::string text;
+  appendPrintedNumber(text, value);
+  return text;
+}
+
+void appendPrintedNumber(std::string& text, double value) {
+  std::array<char, kMostCharacters> buffer;
+  text.append(buffer.data(), putPrinted(value, buffer.data()));
+}
+
 std::string printedNumber(Long value) { return inPrintForm(writtenNumber(value)); }
 
 }  // namespace tavimor

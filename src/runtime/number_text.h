@@ -22,4 +22,7 @@ std::string writtenNumber(Long value);
 std::string printedNumber(double value);
 std::string printedNumber(Long value);
 
+/// The same behind a text, for those who print many.
+void appendPrintedNumber(std::string& text, double value);
+
 }  // namespace tavimor

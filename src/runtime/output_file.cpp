@@ -18,7 +18,7 @@ OutputFile::OutputFile(const std::string& path, FileSteps& steps, const std::str
 }
 
 void OutputFile::print(double value) {
-  pending_ += printedNumber(value);
+  appendPrintedNumber(pending_, value);
   endLine();
 }
 

@@ -1,0 +1,99 @@
+#include "runtime/fifteen_digits.h"
+
+#include <algorithm>
+#include <array>
+#include <bit>
+#include <cmath>
+#include <cstring>
+
+#include "runtime/eight_digits.h"
+
+namespace tavimor {
+
+namespace {
+
+constexpr int kDigits = 15;
+constexpr std::uint64_t kTooMany = 1000000000000000;  // 10^15
+
+struct Halves {
+  double high, low;
+};
+
+// Of at most 26 bits each, so that products of halves are exact.
+Halves halvesOf(double x) {
+  const double shifted = 134217729.0 * x;  // 2^27 + 1
+  const double high = shifted - (shifted - x);
+  return {high, x - high};
+}
+
+Halves exactProduct(double a, double b) {
+  const double product = a * b;
+  const Halves x = halvesOf(a), y = halvesOf(b);
+  return {product, ((x.high * y.high - product) + x.high * y.low + x.low * y.high) + x.low * y.low};
+}
+
+// To the nearest whole number, halves to the even one; below 2^53.
+std::uint64_t rounded(const Halves& sum) {
+  const auto whole = static_cast<std::uint64_t>(sum.high);
+  const double beyondHalf = (sum.high - static_cast<double>(whole)) - 0.5;
+  const bool isOdd = whole % 2 == 1;
+  const bool up = beyondHalf > 0.0 || (beyondHalf == 0.0 && (sum.low > 0.0 || (sum.low == 0.0 && isOdd)));
+  return whole + (up ? 1 : 0);
+}
+
+// The decimal exponent, or one less.
+int leastExponent(double magnitude) {
+  const int binary = static_cast<int>(std::bit_cast<std::uint64_t>(magnitude) >> 52) - 1023;
+  return static_cast<int>(std::floor(binary * 0.30102999566398));  // log10 2, rounded down
+}
+
+constexpr auto kPairsOfDigits = [] {
+  std::array<char, 200> pairs{};
+  for (int n = 0; n < 100; ++n) {
+    pairs[2 * n] = static_cast<char>('0' + n / 10);
+    pairs[2 * n + 1] = static_cast<char>('0' + n % 10);
+  }
+  return pairs;
+}();
+
+void putPair(std::uint32_t number, char* to) { std::memcpy(to, &kPairsOfDigits[2 * number], 2); }
+
+void putEight(std::uint32_t number, char* to) {
+  const std::uint32_t first = number / 10000, second = number % 10000;
+  putPair(first / 100, to);
+  putPair(first % 100, to + 2);
+  putPair(second / 100, to + 4);
+  putPair(second % 100, to + 6);
+}
+
+}  // namespace
+
+FifteenDigits fifteenDigits(double magnitude) {
+  int exponent = leastExponent(magnitude);
+  while (true) {
+    const std::uint64_t digits = rounded(exactProduct(magnitude, kExactPowersOfTen[kDigits - 1 - exponent]));
+    if (digits < kTooMany) return {digits, exponent};
+    ++exponent;
+  }
+}
+
+char* putDecimal(const FifteenDigits& number, char* to) {
+  constexpr std::size_t chunk = 16;      // as many as are copied at once, needed or not
+  std::array<char, 2 * chunk> digits{};  // one zero in front
+  putEight(static_cast<std::uint32_t>(number.digits / kPowersOfTen[8]), digits.data());
+  putEight(static_cast<std::uint32_t>(number.digits % kPowersOfTen[8]), digits.data() + 8);
+  const char* first = digits.data() + 1;
+  const char* end = digits.data() + chunk;
+  while (end[-1] == '0') --end;
+
+  const std::ptrdiff_t whole = std::max(number.exponent + 1, 0);  // digits before the point
+  std::memcpy(to, first, chunk);
+  to += whole;
+  if (first + whole >= end) return to;
+  std::memcpy(to, ".000", 4);
+  to += 1 + std::max(-number.exponent - 1, 0);
+  std::memcpy(to, first + whole, chunk);
+  return to + (end - first - whole);
+}
+
+}  // namespace tavimor
