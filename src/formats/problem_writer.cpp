@@ -1,8 +1,13 @@
 #include "formats/problem_writer.h"
 
+#include <algorithm>
+#include <span>
+#include <vector>
+
 #include "formats/file_pair.h"
 #include "formats/foreign_file.h"
 #include "model/grid_indices.h"
+#include "model/table_strips.h"
 #include "model/value_lists.h"
 
 namespace tavimor {
@@ -10,6 +15,7 @@ namespace tavimor {
 namespace {
 
 constexpr std::size_t kNumbersBetweenReports = 4096;
+constexpr std::size_t kNumbersAtATime = 16384;  // as many as may be held beside the table
 
 // Counts the numbers of the tables, which are nearly all that is written.
 class Count {
@@ -43,6 +49,21 @@ void writeSpecification(const Problem& problem, const Fit& fit, OutputFile& file
   for (std::size_t n = 0; n < fit.Coef.size(); ++n) print(fit.Coef.data()[n], file, count);  // first index fastest
 }
 
+// Numbers go with the last index fastest, a table lies with the first one fastest: where a few first indices have few
+// points together, these are turned first.
+void writeFunction(const Table4& F, OutputFile& file, Count& count) {
+  const std::size_t length = F.size() / F.extent(0);
+  if (kStripWidth * length > kNumbersAtATime)
+    return forEachIndex<Fastest::Last>(F.last(), [&](const PerVariable<Long>& i) { print(F(i), file, count); });
+  const std::size_t width = kNumbersAtATime / length;
+  std::vector<double> turned(std::min(width, F.extent(0)) * length);
+  for (std::size_t first = 0; first < F.extent(0); first += width) {
+    const auto strip = std::span(turned).first(std::min(width, F.extent(0) - first) * length);
+    turnStrip(F, first, strip);
+    for (const double number : strip) print(number, file, count);
+  }
+}
+
 void writeValues(const Problem& problem, const Fit& fit, OutputFile& file, Count& count) {
   file.print(problem.LastVar);
   for (Long v = 0; v <= problem.LastVar; ++v) {
@@ -52,7 +73,7 @@ void writeValues(const Problem& problem, const Fit& fit, OutputFile& file, Count
   for (Long d = 0; d < kMaxVariables; ++d)
     if (problem.LastPoint[d] != 0)
       for (const double value : valueList(problem, d)) file.print(value);
-  forEachIndex<Fastest::Last>(problem.LastPoint, [&](const PerVariable<Long>& i) { print(problem.F(i), file, count); });
+  writeFunction(problem.F, file, count);
   if (fit.FitDone)
     file.write(problem.NumGridPoints, fit.CorrCoef, fit.StdErr, fit.SumRes2, fit.AvgGiven, fit.AvgEstimated);
 }
