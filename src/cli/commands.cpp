@@ -39,7 +39,7 @@ ExitCode reportCommand(const std::string& problem) {
 ExitCode copyCommand(const std::string& problem, const std::string& output) {
   OpenedProblem opened = openShowingProgress(problem);
   CaptureSpecs(opened.problem, opened.fields);
-  saveShowingProgress(opened, output);
+  saveShowingProgress(opened.problem, opened.fit, output);
   return ExitCode::Success;
 }
 

@@ -1,14 +1,12 @@
 #include "cli/estimate_intervals.h"
 
-#include "cli/problem_changes.h"
-#include "model/capture_specs.h"
+#include "cli/fitting.h"
 #include "runtime/number_text.h"
 
 namespace tavimor {
 
 EstimateIntervals::EstimateIntervals(OpenedProblem& opened, double level) : opened_(opened), level_(level) {
-  CaptureSpecs(opened.problem, opened.fields);
-  opinion_ = secondOpinionOn(opened.problem, Reading::AsTyped, centresFromFields(opened.fields));
+  opinion_ = opinionShowingProgress(opened);
   if (isKnown()) statistics_ = fitStatisticsOf(opinion_.precise);
 }
 

@@ -32,7 +32,7 @@ ExitCode fitPrecisely(OpenedProblem& opened, const std::string& path, const std:
   printLine("PRECISE: the exact least-squares solution, not that of the fixed order of arithmetic.");
   ShowResults(opened.problem, opened.fit, printLine);
   finishOutput();
-  if (!output.empty()) saveShowingProgress(opened, output);
+  if (!output.empty()) saveShowingProgress(opened.problem, opened.fit, output);
   return ExitCode::Success;
 }
 
@@ -45,7 +45,7 @@ ExitCode fitCommand(const std::string& problem, const std::string& output, const
   const FitOutcome outcome = fitShowingProgress(opened);
   printOutcome(opened, outcome, problem);
   if (endOfResults(problem, opened.fit) == ExitCode::NoFit) return ExitCode::NoFit;
-  if (outcome.end == FitEnd::Found && !output.empty()) saveShowingProgress(opened, output);
+  if (outcome.end == FitEnd::Found && !output.empty()) saveShowingProgress(opened.problem, opened.fit, output);
   if (!options.noCheck) checkFit(opened, outcome, problem);
   return outcome.end == FitEnd::Found ? ExitCode::Success : ExitCode::NoFit;
 }

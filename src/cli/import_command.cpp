@@ -1,9 +1,9 @@
 #include "cli/import_command.h"
 
 #include "cli/output.h"
+#include "cli/problem_files.h"
 #include "cli/progress_bar.h"
 #include "formats/problem_json.h"
-#include "formats/problem_writer.h"
 #include "formats/tables/import_table.h"
 #include "formats/tables/table_text.h"
 
@@ -43,7 +43,7 @@ ExitCode importJson(const std::string& table, std::string_view text, const std::
                     const ImportArguments& arguments) {
   if (arguments != ImportArguments{}) throw UsageError("the options are those of tables; this is a problem as JSON");
   const StoredProblem read = problemFromJson(text, nameOf(table));
-  writeProblem(read.problem, read.fit, output);
+  saveShowingProgress(read.problem, read.fit, output);
   printLine(read.fit.FitDone ? "A problem as JSON, with its fit." : "A problem as JSON, without a fit.");
   finishOutput();
   return ExitCode::Success;
@@ -67,7 +67,7 @@ ExitCode importCommand(const std::string& table, const std::string& output, cons
       if (finding.isRefusal()) complain(nameOf(table), finding.text);
     return ExitCode::Error;
   }
-  writeProblem(*outcome.problem, Fit(), output);
+  saveShowingProgress(*outcome.problem, Fit(), output);
   for (const TableFinding& finding : outcome.findings) printLine(finding.text);
   finishOutput();
   return ExitCode::Success;

@@ -10,9 +10,9 @@ OpenedProblem openShowingProgress(const std::string& path) {
   return openProblem(path, [&](double share) { bar.show(share); });
 }
 
-void saveShowingProgress(const OpenedProblem& opened, const std::string& path) {
+void saveShowingProgress(const Problem& problem, const Fit& fit, const std::string& path) {
   ProgressBar bar;
-  writeProblem(opened.problem, opened.fit, path, systemFileSteps(), [&](double share) { bar.show(share); });
+  writeProblem(problem, fit, path, systemFileSteps(), [&](double share) { bar.show(share); });
 }
 
 }  // namespace tavimor
