@@ -15,6 +15,8 @@ struct SpecFields {
   std::string txtPoints;     // number of values
   std::string txtExpansion;  // centre of expansion, or "*" for the middle of the interval
   bool chkSpaced = false;
+
+  bool operator==(const SpecFields&) const = default;
 };
 
 /// The fields of all variables; those beyond LastVar do not count.

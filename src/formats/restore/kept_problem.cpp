@@ -1,6 +1,7 @@
 #include "formats/restore/kept_problem.h"
 
 #include <cerrno>
+#include <cstring>
 #include <nlohmann/json.hpp>
 #include <utility>
 
@@ -20,6 +21,21 @@ namespace tavimor {
 namespace {
 
 using nlohmann::json;
+
+// Bit for bit: a NaN is the same as itself.
+bool haveSameBits(const double* a, const double* b, std::size_t count) {
+  return std::memcmp(a, b, count * sizeof(double)) == 0;
+}
+
+bool haveSameBits(const std::vector<double>& a, const std::vector<double>& b) {
+  return a.size() == b.size() && haveSameBits(a.data(), b.data(), a.size());
+}
+
+bool haveSameVariable(const SessionProblem& a, const SessionProblem& b, Long k) {
+  const bool isSpaced = a.fields[k].chkSpaced && b.fields[k].chkSpaced;
+  return a.problem.VarName[k] == b.problem.VarName[k] && a.fields[k] == b.fields[k] &&
+         (isSpaced || haveSameBits(valueList(a.problem, k), valueList(b.problem, k)));
+}
 
 std::string descriptionIn(const std::string& folder) { return folder + "/description.json"; }
 
@@ -93,6 +109,13 @@ KeptDescription describedByPair(const std::string& path) {
 }
 
 }  // namespace
+
+bool haveSameWork(const SessionProblem& a, const SessionProblem& b) {
+  if (a.problem.LastVar != b.problem.LastVar || a.problem.F.last() != b.problem.F.last()) return false;
+  for (Long k = 0; k <= a.problem.LastVar; ++k)
+    if (!haveSameVariable(a, b, k)) return false;
+  return haveSameBits(a.problem.F.data(), b.problem.F.data(), a.problem.F.size());
+}
 
 std::string keptPair(const std::string& folder) { return folder + "/problem"; }
 

@@ -20,6 +20,10 @@ struct SessionProblem {
   std::string file;                  // where it was opened or saved; empty where that has not been
 };
 
+/// Whether both hold the same as far as a user has typed it: specifications, values, function. Results follow from
+/// these, and so do equally spaced values.
+bool haveSameWork(const SessionProblem& a, const SessionProblem& b);
+
 /// What a list says of a kept problem.
 struct KeptDescription {
   std::string file;

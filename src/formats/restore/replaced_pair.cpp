@@ -8,6 +8,7 @@
 #include <string_view>
 #include <vector>
 
+#include "formats/problem_writer.h"
 #include "formats/readable_pair.h"
 #include "runtime/file_facts.h"
 #include "runtime/run_time_error.h"
@@ -69,9 +70,9 @@ std::string timeName() {
 
 std::vector<fs::path> foldersIn(const fs::path& folder) {
   std::vector<fs::path> found;
-  std::error_code error;
+  std::error_code error, unknown;
   for (fs::directory_iterator entry(folder, error), end; !error && entry != end; entry.increment(error))
-    if (fs::is_directory(entry->symlink_status())) found.push_back(entry->path());
+    if (fs::is_directory(entry->symlink_status(unknown))) found.push_back(entry->path());
   return found;
 }
 
@@ -104,7 +105,25 @@ void removeWhatIsTooMuch(const std::string& replaced, const ReplacedLimits& limi
     if ((bytes += bytesIn(pair)) > limits.bytes) removeFolder(utf8Path(pair));
 }
 
+template <class Step>
+std::optional<std::string> refusalOf(Step step) {
+  try {
+    step();
+    return std::nullopt;
+  } catch (const Failure& failure) {
+    return failure.path() + ": " + failure.report();
+  }
+}
+
 }  // namespace
+
+std::optional<std::string> writeKeepingReplaced(const Problem& problem, const Fit& fit, const std::string& path,
+                                                KeptSession& session, const Progress& progress) {
+  std::optional<ReplacedPair> replaced;
+  const auto refusal = refusalOf([&] { replaced.emplace(session, path); });
+  writeProblem(problem, fit, path, systemFileSteps(), progress);
+  return replaced ? refusalOf([&] { replaced->keep(); }) : refusal;
+}
 
 std::string replacedFolder(const std::string& stateFolder) { return stateFolder + "/replaced"; }
 

@@ -1,8 +1,10 @@
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "formats/restore/kept_session.h"
+#include "runtime/progress.h"
 
 namespace tavimor {
 
@@ -34,6 +36,11 @@ class ReplacedPair {
   std::string path_;
   std::string copy_;  // the folder; empty where there was no pair
 };
+
+/// Writes the problem as writeProblem does, and keeps the pair that it replaces. Returns in words why that could not be
+/// kept, where it could not: it hinders no save. Errors: as writeProblem.
+std::optional<std::string> writeKeepingReplaced(const Problem& problem, const Fit& fit, const std::string& path,
+                                                KeptSession& session, const Progress& progress = {});
 
 /// The folder below the state folder that replaced pairs stand in, and the one for those of a file.
 std::string replacedFolder(const std::string& stateFolder);
