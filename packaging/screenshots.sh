@@ -15,6 +15,7 @@ fi
 work=$(mktemp -d)
 trap 'kill "${pid:-}" 2>/dev/null || true; rm -rf "$work"' EXIT
 mkdir -p "$folder"
+export XDG_STATE_HOME=$work/state # nothing of the user's is listed or touched
 
 source packaging/keys.sh
 

@@ -19,16 +19,23 @@ PerVariable<Long> indicesAfterEvaluation(const Problem& problem) {
 
 }  // namespace
 
-void Compute(Dimension& model, const LineSink& addItem, const FitOptions& options) {
+void beginFit(Dimension& model) {
   model.FitDone = false;
   model.ErrNumber = 0;
   RegenerateSpacedValues(model, model.EquallySpaced);
   model.FitGrid = Table4();  // its memory is wanted for the new one
-  FitOutcome outcome = fit(model, options, model);
+}
+
+void takeOutcome(Dimension& model, FitOutcome outcome, const LineSink& addItem) {
   model.ErrNumber = outcome.ErrNumber;
   if (outcome.end == FitEnd::Found || outcome.end == FitEnd::Singular)
     static_cast<Fit&>(model) = std::move(outcome.fit);
   if (outcome.end == FitEnd::Singular) addItem(kSingularMatrix);
+}
+
+void Compute(Dimension& model, const LineSink& addItem, const FitOptions& options) {
+  beginFit(model);
+  takeOutcome(model, fit(model, options, model), addItem);
 }
 
 void Evaluate(Dimension& model) {

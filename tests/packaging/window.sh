@@ -7,7 +7,7 @@ source "$(dirname "$0")/checks.sh"
 source "$source_folder/packaging/keys.sh"
 folder=$(mktemp -d)
 cd "$folder"
-HOME=$folder "$1" &
+HOME=$folder XDG_STATE_HOME=$folder/state "$1" &
 pid=$!
 trap 'kill "$pid" 2>/dev/null || true; rm -rf "$folder"' EXIT
 

@@ -193,6 +193,7 @@ int main(int argc, char** argv) {
   const std::string replayed = argc > 4 ? QFileInfo(argv[4]).absoluteFilePath().toStdString() : "";
   QDir::setCurrent(folder.path());
   qputenv("HOME", folder.path().toUtf8());
+  qunsetenv("XDG_STATE_HOME");
   QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
   Application application(argc, argv);
   QApplication::setQuitOnLastWindowClosed(false);

@@ -55,6 +55,7 @@ bool Application::notify(QObject* receiver, QEvent* event) {
 }
 
 void Application::fail(const Failure& failure) {
+  if (noteFailure_) noteFailure_();
   reportFailure(failure, saveProblem_);
   end_(1);
 }

@@ -20,6 +20,9 @@ class Application : public QApplication {
   /// Writes the problem as it stands to a path; offered by the error box. Errors: a Failure.
   void setProblemSaver(std::function<void(const std::string& path)> save) { saveProblem_ = std::move(save); }
 
+  /// Called before a failure is reported, so that nothing is lost whatever comes then.
+  void setFailureNotice(std::function<void()> notice) { noteFailure_ = std::move(notice); }
+
   /// What ends the program; a test puts its own in the place of leaving the event loop.
   void setEnding(std::function<void(int exitCode)> end) { end_ = std::move(end); }
 
@@ -30,6 +33,7 @@ class Application : public QApplication {
 
  private:
   std::function<void(const std::string&)> saveProblem_;
+  std::function<void()> noteFailure_;
   std::function<void(int)> end_;
 };
 

@@ -41,6 +41,7 @@ void frmTavimor::Form_Load() {
   mnuExport->setEnabled(false);
   mnuCopyTable->setEnabled(false);
   showFileName();
+  keepUnsavedWork();
   txtOrder->setFocus();
 
   setAcceptDrops(true);
@@ -49,6 +50,8 @@ void frmTavimor::Form_Load() {
 
 void frmTavimor::Form_Unload() {
   RestoreDecimalSeparator();
+  keepForRestore(SessionEnd::Closed);
+  keeper_.reset();
   const QVector<Form*> forms = openForms();
   for (Form* form : forms) form->unload();
   QCoreApplication::quit();
@@ -68,6 +71,7 @@ void frmTavimor::connectCommands() {
   connect(mnuSave, &QAction::triggered, this, &frmTavimor::mnuSave_Click);
   connect(mnuSaveAs, &QAction::triggered, this, &frmTavimor::mnuSaveAs_Click);
   connect(mnuPrint, &QAction::triggered, this, &frmTavimor::mnuPrint_Click);
+  connect(mnuRestore, &QAction::triggered, this, &frmTavimor::mnuRestore_Click);
   connect(mnuExport, &QAction::triggered, this, &frmTavimor::mnuExport_Click);
   connect(mnuCopyTable, &QAction::triggered, this, &frmTavimor::mnuCopyTable_Click);
   connect(mnuHelp, &QAction::triggered, this, &frmTavimor::mnuHelp_Click);
@@ -104,11 +108,19 @@ void frmTavimor::showBlockNumber(Long number) {
 }
 
 void frmTavimor::Compute() {
+  beginFit(model_);
+  LongWork work(*wrkDisplay, [this] { return isToEnd(); });
   FitOptions options;
-  options.isCalledOff = endIsRequested;
+  options.isCalledOff = [&work] { return work.isCalledOff() || endIsRequested(); };
+  options.progress = [&work](double share) { work.tell(share); };
+  FitOutcome outcome;
+  work.run([&] { outcome = fit(model_, options, model_); });
   const auto addItem = [this](const std::string& line) { lstCoeff->addItem(line); };
-  tavimor::Compute(model_, addItem, options);
+  takeOutcome(model_, std::move(outcome), addItem);
 }
+
+// Asked to, or closed while work was going on.
+bool frmTavimor::isToEnd() const { return isEnding() || endIsRequested(); }
 
 void frmTavimor::Evaluate() { tavimor::Evaluate(model_); }
 

@@ -10,8 +10,10 @@
 #include "ui/controls/common_dialog.h"
 #include "ui/controls/form.h"
 #include "ui/controls/help/help_key.h"
+#include "ui/controls/long_work.h"
 #include "ui/controls/printing/printer.h"
 #include "ui/main_window/frmTavimor_controls.h"
+#include "ui/main_window/problem_keeper.h"
 
 namespace tavimor {
 
@@ -43,6 +45,12 @@ class frmTavimor : public Form, private MainControls {
 
   void Compute();
   void Evaluate();
+
+  /// Opens what an earlier session has left in this folder (see Restorable), as a copy without a file.
+  void restoreFolder(const std::string& folder);
+
+  /// Keeps what is not saved, as it stands, and waits for that; for when the program ends.
+  void keepForRestore(SessionEnd end);
 
   /// Opens a problem as the Open command does once a file is chosen.
   void openFile(const std::string& path);
@@ -91,6 +99,9 @@ class frmTavimor : public Form, private MainControls {
   void saveIfNamed();
   void SaveProblem();
   void showOpened(OpenedProblem opened);
+  WorkEnd openAsLongWork(const std::string& path, OpenedProblem& opened);
+  void saveAsLongWork(const std::string& path);
+  bool isToEnd() const;
 
   // Tables
   void mnuImport_Click();
@@ -98,6 +109,13 @@ class frmTavimor : public Form, private MainControls {
   void importFile(const std::string& path);
   void importText(std::string_view text);
   void takeDropped(const QString& file, const std::string& text);
+
+  // Restoring
+  void keepUnsavedWork();
+  std::optional<SessionProblem> sessionProblem() const;
+  void mnuRestore_Click();
+  void restore(const Restorable& chosen);
+  void showRestored(SessionProblem kept);
 
   // Formulas
   void mnuExport_Click();
@@ -144,6 +162,7 @@ class frmTavimor : public Form, private MainControls {
   QPointer<frmVars> valuesWindow_;
   CommonDialog cdbFile;
   HelpKey helpKey_{[this](const QString& form) { showHelp(form); }};
+  std::optional<ProblemKeeper> keeper_;
   std::string refusedFile_;  // a file of the user's that could not be opened or replaced: never replaced unasked
 };
 

@@ -50,6 +50,8 @@ void MainControls::makeStatusLine() {
   stbStatus = new StatusLine;
   lblFileName = makeControl<ElidedLabel>(QStringLiteral("lblFileName"), "");
   lblBlock = makeControl<QLabel>(QStringLiteral("lblBlock"), "");
+  wrkDisplay = new WorkDisplay;
+  stbStatus->addPermanentWidget(wrkDisplay);
   stbStatus->addPermanentWidget(lblFileName);
   stbStatus->addPermanentWidget(lblBlock);
 }

@@ -8,6 +8,7 @@
 #include "ui/controls/elided_label.h"
 #include "ui/controls/list_box.h"
 #include "ui/controls/status_line.h"
+#include "ui/controls/work_display.h"
 #include "ui/main_window/spec_block.h"
 
 class QMenuBar;
@@ -30,6 +31,7 @@ struct MainControls {
   QAction* mnuImport;
   QAction* mnuPaste;
   QAction* mnuExport;
+  QAction* mnuRestore;
   QAction* mnuHelp;
   QAction* mnuAbout;
 
@@ -56,6 +58,7 @@ struct MainControls {
   QAction* mnuCopyTable;  // in the context menu of the list
 
   StatusLine* stbStatus;
+  WorkDisplay* wrkDisplay;   // in the status line
   ElidedLabel* lblFileName;  // both on the right of the status line
   QLabel* lblBlock;
 

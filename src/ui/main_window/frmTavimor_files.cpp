@@ -2,13 +2,14 @@
 #include <utility>
 
 #include "formats/foreign_file.h"
-#include "formats/problem_writer.h"
+#include "formats/restore/replaced_pair.h"
 #include "model/salvage_specs.h"
 #include "runtime/failure.h"
 #include "runtime/number_text.h"
 #include "runtime/text.h"
 #include "runtime/val.h"
 #include "ui/controls/message_box.h"
+#include "ui/controls/wait_pointer.h"
 #include "ui/main_window/frmTavimor.h"
 
 namespace tavimor {
@@ -30,13 +31,33 @@ void frmTavimor::mnuOpen_Click() {
 void frmTavimor::openFile(const std::string& path) {
   cdbFile.FileName = refusedFile_ = path;
   try {
-    OpenedProblem opened = openProblem(path);
+    OpenedProblem opened;
+    if (openAsLongWork(path, opened) == WorkEnd::CalledOff) return;
     refusedFile_.clear();
     model_.FileName = path;
     showOpened(std::move(opened));
+    keeper_->noteSaved();
   } catch (const Failure& failure) {
     reportUnopened(failure.path().empty() ? path : failure.path(), failure.report());
   }
+}
+
+// Reading and writing take as long as the files are large; called off, they leave everything as it was.
+WorkEnd frmTavimor::openAsLongWork(const std::string& path, OpenedProblem& opened) {
+  const WaitPointer hourglass;
+  LongWork work(*wrkDisplay, [this] { return isToEnd(); });
+  return work.run([&] { opened = openProblem(path, [&work](double share) { work.tellOrLeave(share); }); });
+}
+
+void frmTavimor::saveAsLongWork(const std::string& path) {
+  const WaitPointer hourglass;
+  LongWork work(*wrkDisplay, [this] { return isToEnd(); });
+  const Progress progress = [&work](double share) { work.tellOrLeave(share); };
+  std::optional<std::string> refusal;
+  const WorkEnd end =
+      work.run([&] { refusal = writeKeepingReplaced(model_, model_, path, keeper_->session(), progress); });
+  if (end == WorkEnd::Done) keeper_->noteSaved();
+  if (refusal) keeper_->tellRefusal(QString::fromStdString(*refusal));
 }
 
 void frmTavimor::showOpened(OpenedProblem opened) {
@@ -120,7 +141,7 @@ void frmTavimor::saveIfNamed() {
 void frmTavimor::SaveProblem() {
   CaptureSpecs();
   try {
-    writeProblem(model_, model_, model_.FileName);
+    saveAsLongWork(model_.FileName);
   } catch (const ForeignFile& failure) {
     refusedFile_ = std::exchange(model_.FileName, {});
     showWarning(QString::fromStdString(failure.report() + "\n" + withEscapes(failure.path())));
@@ -130,7 +151,9 @@ void frmTavimor::SaveProblem() {
 
 void frmTavimor::saveCopy(const std::string& path) {
   salvageSpecs(model_, model_, specFields());
-  writeProblem(model_, model_, path);
+  writeKeepingReplaced(model_, model_, path, keeper_->session());
+  keeper_->noteSaved();
+  keeper_->end(SessionEnd::Closed);
 }
 
 }  // namespace tavimor

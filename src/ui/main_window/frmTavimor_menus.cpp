@@ -52,6 +52,7 @@ void MainControls::makeToolsMenu() {
   for (QAction* item : {mnuImport, mnuPaste})
     QObject::connect(mnuOpen, &QAction::enabledChanged, item, &QAction::setEnabled);
   mnuExport = addItem(*menu, "mnuExport", "&Export formula...", Qt::CTRL | Qt::Key_E);
+  mnuRestore = addItem(*menu, "mnuRestore", "&Restore...", Qt::CTRL | Qt::Key_R);
 }
 
 }  // namespace tavimor

@@ -27,6 +27,7 @@ constexpr int kCannotPrint = 1, kWrongUsage = 2;  // as of tavimor-cli
 
 struct Arguments {
   std::string problem;
+  std::string restored;         // what a window hands to a new one
   std::optional<int> exitCode;  // the command line asks for text only, or is wrong
 };
 
@@ -49,6 +50,7 @@ Arguments parse(std::vector<std::string> words) {
   app.get_formatter()->label("Positionals", "Arguments");
   Arguments arguments;
   app.add_option("PROBLEM", arguments.problem, kProblemIs)->option_text(" ");
+  app.add_option("--restore", arguments.restored)->group("");  // no word of a person's
   try {
     std::reverse(words.begin(), words.end());  // as the parser wants them
     app.parse(words);
@@ -81,7 +83,9 @@ int main(int argc, char** argv) {
   frmTavimor* window = Main(model);
   if (window == nullptr) return 0;
   application.setProblemSaver([window](const std::string& path) { window->saveCopy(path); });
+  application.setFailureNotice([window] { window->keepForRestore(SessionEnd::RunTimeError); });
   unloadOnEndRequest(*window, endRequests);
   if (!arguments.problem.empty()) QTimer::singleShot(0, window, [&] { window->openFile(arguments.problem); });
+  if (!arguments.restored.empty()) QTimer::singleShot(0, window, [&] { window->restoreFolder(arguments.restored); });
   return QApplication::exec();
 }

@@ -11,6 +11,7 @@ namespace tavimor {
 
 MainWindowTest::MainWindowTest() : oldFolder_(QDir::currentPath()) {
   QDir::setCurrent(folder.path());
+  qputenv("XDG_STATE_HOME", stateHome.path().toUtf8());
   window = new frmTavimor(model);
   window->show();
   EXPECT_TRUE(QTest::qWaitForWindowActive(window));

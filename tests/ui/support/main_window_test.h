@@ -66,6 +66,7 @@ class MainWindowTest : public testing::Test {
 
   Dialogs dialogs;
   QTemporaryDir folder;
+  QTemporaryDir stateHome;  // what the program keeps for restoring
   Dimension model;
   QPointer<frmTavimor> window;
 
