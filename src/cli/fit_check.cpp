@@ -22,6 +22,9 @@ std::optional<std::string> warningOf(const SecondOpinion& opinion, const OpenedP
   const Finding& finding = opinion.precise.finding;
   if (finding.verdict == Verdict::NotDetermined)
     return "the data determine no fit: " + reasonText(finding, opened.problem) + whereMoreIsTold(path);
+  if (finding.verdict == Verdict::NotCertified)
+    return "how many digits are right cannot be certified: " + reasonText(finding, opened.problem) +
+           whereMoreIsTold(path);
   if (!opinion.isExact() || !opened.fit.FitDone) return std::nullopt;
   const double digits = listedDigits(opened.fit, opinion.precise).worst;
   if (digits >= kFewDigits) return std::nullopt;

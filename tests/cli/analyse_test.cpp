@@ -1,9 +1,11 @@
 #include <gmock/gmock.h>
 
+#include <cmath>
 #include <nlohmann/json.hpp>
 
 #include "analysis/statistic_texts.h"
 #include "cli/cli.h"
+#include "runtime/number_text.h"
 #include "support/document.h"
 #include "support/example.h"
 #include "support/pair_files.h"
@@ -218,6 +220,21 @@ TEST_F(FitOptionsOfTheCommand, WarnOfFewRightDigits) {
 TEST_F(FitOptionsOfTheCommand, WarnThatTheDataDetermineNoFit) {
   EXPECT_THAT(tavimorCli({"fit", singular()}).err,
               HasSubstr(": the data determine no fit: variable \"x\" has 1 different "));
+}
+
+TEST_F(FitOptionsOfTheCommand, WarnThatNoDigitsAreCertified) {
+  std::string values = " 0 \n 29 \n#FALSE#\n";
+  for (int n = 0; n < 30; ++n) values += " " + numberText(std::pow(10.0, -0.4 * n)) + " \n";
+  for (int n = 0; n < 30; ++n) values += " " + std::to_string(n % 7) + " \n";
+  const std::string record = test::fileText({" 0 ", R"("x",2.51188643150958E-12,1,0,#TRUE#,0,12)", "#FALSE#"});
+  const std::string problem = writePair("decades", record, test::withCrLf(values));
+  const Outcome outcome = tavimorCli({"fit", problem});
+  EXPECT_EQ(outcome.exitCode, 0);
+  EXPECT_EQ(outcome.err, "tavimor-cli: " + problem +
+                             ": how many digits are right cannot be certified: the values of variable \"x\" are too "
+                             "uneven for its degree, or lie too close together; \"tavimor-cli analyse " +
+                             problem + "\" tells more\n");
+  EXPECT_EQ(tavimorCli({"fit", problem, "--no-check"}).err, "");
 }
 
 using EvalIntervals = test::CommandTest;
