@@ -1,6 +1,6 @@
-// Runs a program, its standard output thrown away, and prints the seconds from its start to its end and the kilobytes
-// that it held at most. A program of its own, and a small one: the system counts the memory of whoever starts a
-// program as that program's.
+// Runs a program, its standard output thrown away, and prints the seconds from its start to its end, the kilobytes that
+// it held at most and the seconds of processor time that it took. A program of its own, and a small one: the system
+// counts the memory of whoever starts a program as that program's.
 //   process-cost PROGRAM [ARGUMENT...]
 #include <fcntl.h>
 #include <spawn.h>
@@ -20,6 +20,10 @@ double now() {
   return static_cast<double>(time.tv_sec) + 1e-9 * static_cast<double>(time.tv_nsec);
 }
 
+double secondsOf(const timeval& time) {
+  return static_cast<double>(time.tv_sec) + 1e-6 * static_cast<double>(time.tv_usec);
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -33,5 +37,7 @@ int main(int argc, char** argv) {
   int status = 0;
   rusage usage{};
   if (wait4(child, &status, 0, &usage) != child || status != 0) return 1;
-  std::printf("%.9f %ld\n", now() - start, usage.ru_maxrss);
+  const double end = now();
+  const double processor = secondsOf(usage.ru_utime) + secondsOf(usage.ru_stime);
+  std::printf("%.9f %ld %.6f\n", end - start, usage.ru_maxrss, processor);
 }
