@@ -14,30 +14,61 @@ namespace {
 
 constexpr std::size_t kMostSampled = 4096;
 constexpr double kSquaredUnit = kUnitRoundoff * kUnitRoundoff;
+constexpr double kStepError = 5 * kPairError;  // of `advance`, beside the magnitudes of its two products
 
 Pair innerProduct(const PairSums& sums, ConstPairs a, ConstPairs b, std::size_t count) {
-  ChainSum sum;
+  ChainSums sum(1);
   for (std::size_t n = 0; n < count; n += kMostDotted)
-    sums.dot(a + n, b + n, std::min(kMostDotted, count - n), sum.chains());
-  return sum.total();
+    sums.dots(a + n, b + n, 0, 1, std::min(kMostDotted, count - n), sum.from(0));
+  return sum.total(0);
 }
 
-// The error of each polynomial at a value, at most: the rounding of every step, carried on by those behind it.
-double normOfBasisErrors(const AxisBasis& basis, const BasisMagnitudes& magnitudes) {
-  double before = 0.0, current = 0.0, sumOfSquares = 0.0;
-  for (std::size_t j = 0; j < basis.recurrence.size(); ++j) {
-    const RecurrenceStep& step = basis.recurrence[j];
-    const double factor = step.scale * (magnitudes.largestCoordinate + std::fabs(step.shift));
-    const double back = std::fabs(step.back.high);
-    const double largestBefore = j > 0 ? magnitudes.largest[j - 1] : 0.0;
-    const double rounding = 2 * kPairError * (factor * magnitudes.largest[j] + back * largestBefore);
-    const double ofCoordinate = step.scale * basis.frame.coordinateError * magnitudes.largest[j];
-    const double next = factor * current + back * before + rounding + ofCoordinate;
-    before = current;
-    current = next;
-    sumOfSquares += next * next;
+// All of them, or some that lie evenly among a great many.
+std::vector<double> sampledCoordinates(const AxisData& axis, const AxisFrame& frame, const PairSums& sums) {
+  if (axis.count <= kMostSampled) {
+    PairList t(paddedToChains(axis.count));
+    coordinates(axis, frame, sums, 0, axis.count, t);
+    return {t.high.data(), t.high.data() + axis.count};
   }
-  return std::sqrt(static_cast<double>(basis.count) * sumOfSquares);
+  PairList t(kChains);
+  std::vector<double> sample;
+  for (std::size_t n = 0; n < kMostSampled; ++n) {
+    coordinates(axis, frame, sums, n * (axis.count - 1) / (kMostSampled - 1), 1, t);
+    sample.push_back(t.high[0]);
+  }
+  return sample;
+}
+
+// The polynomials at all values of the axis, one after the other, each `rows` long.
+BasisMagnitudes fillAxis(const AxisData& axis, const PairSums& sums, std::size_t rows, PairList& polynomials,
+                         AxisBasis& basis) {
+  PairList t(rows);
+  basis.exactValues = coordinates(axis, basis.frame, sums, 0, axis.count, t);
+  std::fill_n(polynomials.high.begin(), axis.count, 1.0);
+  BasisMagnitudes magnitudes(axis.terms);
+  for (const double value : t.high)
+    magnitudes.largestCoordinate = std::max(magnitudes.largestCoordinate, std::fabs(value));
+  fillPolynomials(basis.recurrence, sums, Pairs(t), rows, polynomials, magnitudes.largest);
+  return magnitudes;
+}
+
+PairMatrix innerProducts(const PairSums& sums, ConstPairs polynomials, std::size_t rows, std::size_t terms,
+                         const AnalysisOptions& options) {
+  PairMatrix products(terms, terms);
+  for (std::size_t a = 0; a < terms; ++a) {
+    goOn(options);
+    for (std::size_t b = 0; b <= a; ++b)
+      products(a, b) = products(b, a) = innerProduct(sums, polynomials + a * rows, polynomials + b * rows, rows);
+  }
+  return products;
+}
+
+PairMatrix valuesByRow(const PairList& polynomials, std::size_t rows, std::size_t count, std::size_t terms) {
+  PairMatrix values(count, terms);
+  for (std::size_t j = 0; j < terms; ++j)
+    for (std::size_t i = 0; i < count; ++i)
+      values(i, j) = {polynomials.high[j * rows + i], polynomials.low[j * rows + i]};
+  return values;
 }
 
 double frobeniusNorm(const PairMatrix& matrix) {
@@ -48,22 +79,28 @@ double frobeniusNorm(const PairMatrix& matrix) {
 
 }  // namespace
 
+double normOfBasisErrors(const AxisBasis& basis, const BasisMagnitudes& magnitudes) {
+  double before = 0.0, current = 0.0, sumOfSquares = 0.0;
+  for (std::size_t j = 0; j < basis.recurrence.size(); ++j) {
+    const RecurrenceStep& step = basis.recurrence[j];
+    const double factor = step.scale * (magnitudes.largestCoordinate + std::fabs(step.shift));
+    const double back = std::fabs(step.back.high);
+    const double largestBefore = j > 0 ? magnitudes.largest[j - 1] : 0.0;
+    const double rounding = kStepError * (factor * magnitudes.largest[j] + back * largestBefore);
+    const double ofCoordinate = step.scale * basis.frame.coordinateError * magnitudes.largest[j];
+    const double next = factor * current + back * before + rounding + ofCoordinate;
+    before = current;
+    current = next;
+    sumOfSquares += (next + magnitudes.further) * (next + magnitudes.further);
+  }
+  return std::sqrt(static_cast<double>(basis.count) * sumOfSquares);
+}
+
 double sumError(std::size_t count) { return (4096 + 8 * (static_cast<double>(count) / kBlock + 1)) * kSquaredUnit; }
 
 Recurrence axisRecurrence(const AxisData& axis, const AxisFrame& frame, const PairSums& sums) {
   if (axis.equallySpaced()) return recurrenceOfSpaced(axis.count, axis.terms);
-  PairList t(axis.count <= kMostSampled ? axis.count : 1);
-  std::vector<double> sample;
-  if (axis.count <= kMostSampled) {
-    coordinates(axis, frame, sums, 0, axis.count, t);
-    sample = std::move(t.high);
-  } else {
-    for (std::size_t n = 0; n < kMostSampled; ++n) {
-      coordinates(axis, frame, sums, n * (axis.count - 1) / (kMostSampled - 1), 1, t);
-      sample.push_back(t.high[0]);
-    }
-  }
-  return recurrenceOf(sample, axis.terms);
+  return recurrenceOf(sampledCoordinates(axis, frame, sums), axis.terms);
 }
 
 void fillPolynomials(const Recurrence& recurrence, const PairSums& sums, ConstPairs t, std::size_t count,
@@ -107,26 +144,11 @@ AxisBasis axisBasis(const AxisData& axis, const AnalysisOptions& options) {
   try {
     basis.recurrence = axisRecurrence(axis, basis.frame, sums);
     const std::size_t rows = paddedToChains(axis.count);
-    PairList t(rows), polynomials(rows * axis.terms);
-    basis.exactValues = coordinates(axis, basis.frame, sums, 0, axis.count, t);
-    std::fill_n(polynomials.high.begin(), axis.count, 1.0);
-    BasisMagnitudes magnitudes{0.0, std::vector<double>(axis.terms)};
-    magnitudes.largest[0] = 1.0;
-    for (const double value : t.high)
-      magnitudes.largestCoordinate = std::max(magnitudes.largestCoordinate, std::fabs(value));
-    fillPolynomials(basis.recurrence, sums, Pairs(t), rows, polynomials, magnitudes.largest);
-    const Pairs all = polynomials;
-    PairMatrix products(axis.terms, axis.terms);
-    for (std::size_t a = 0; a < axis.terms; ++a) {
-      goOn(options);
-      for (std::size_t b = 0; b <= a; ++b)
-        products(a, b) = products(b, a) = innerProduct(sums, all + a * rows, all + b * rows, rows);
-    }
+    PairList polynomials(rows * axis.terms);
+    const BasisMagnitudes magnitudes = fillAxis(axis, sums, rows, polynomials, basis);
+    const PairMatrix products = innerProducts(sums, Pairs(polynomials), rows, axis.terms, options);
     orthonormalise(basis, products, sumError(axis.count), magnitudes, options);
-    basis.values = PairMatrix(axis.count, axis.terms);
-    for (std::size_t j = 0; j < axis.terms; ++j)
-      for (std::size_t i = 0; i < axis.count; ++i)
-        basis.values(i, j) = {polynomials.high[j * rows + i], polynomials.low[j * rows + i]};
+    basis.values = valuesByRow(polynomials, rows, axis.count, axis.terms);
   } catch (const std::bad_alloc&) {
     throw RunTimeError(ErrorNumber::OutOfMemory);
   }

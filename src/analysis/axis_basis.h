@@ -32,11 +32,18 @@ AxisBasis axisBasis(const AxisData& axis, const AnalysisOptions& options);
 /// A basis of which only the frame is made; its error is infinite where the frame is not usable.
 AxisBasis framedBasis(const AxisData& axis);
 
-/// What the values of the polynomials of one axis lack: the largest magnitude of each and the bounds of its error.
+/// What the bounds of the polynomials' errors at the values of an axis are made of.
 struct BasisMagnitudes {
-  double largestCoordinate = 1.0;
-  std::vector<double> largest;  // of each polynomial
+  explicit BasisMagnitudes(std::size_t terms) : largest(terms) { largest[0] = 1.0; }
+
+  double largestCoordinate = 0.0;
+  std::vector<double> largest;  // magnitude of each polynomial
+  double further = 0.0;         // what else a value of a polynomial can be off at most
 };
+
+/// The root of the summed squares of the errors of all polynomials at all values, at most: the rounding of every step
+/// of the recurrence, carried on by those behind it.
+double normOfBasisErrors(const AxisBasis& basis, const BasisMagnitudes& magnitudes);
 
 /// Makes `inverse` and `error` from the matrix of inner products. `normError` is the relative error of each of its
 /// elements beside the product of the norms.

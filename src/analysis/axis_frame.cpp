@@ -55,7 +55,9 @@ int lastDigit(double value) {
   return exponent;
 }
 
-// Whether every value is a double: all are multiples of the last digit of the first one and of the step.
+}  // namespace
+
+// All are multiples of the last digit of the first one and of the step.
 bool isExactlySpaced(const AxisData& axis) {
   const Pair step = (axis.upper - axis.lower) / Pair(static_cast<double>(axis.count - 1));
   if (axis.lower.low != 0.0 || axis.upper.low != 0.0 || step.low != 0.0 || step.high == 0.0) return false;
@@ -65,7 +67,7 @@ bool isExactlySpaced(const AxisData& axis) {
   return std::ldexp(largest, -digit) <= 0x1p53;
 }
 
-}  // namespace
+double unitOfGrid(std::size_t count) { return std::ldexp(1.0, -exponentAbove(static_cast<double>(count - 1))); }
 
 AxisFrame axisFrame(const AxisData& axis) {
   AxisFrame frame = axis.equallySpaced() ? frameOfSpaced(axis) : frameOfListed(axis);
@@ -77,7 +79,7 @@ bool coordinates(const AxisData& axis, const AxisFrame& frame, const PairSums& s
                  std::size_t count, Pairs t) {
   if (axis.equallySpaced()) {
     const double last = static_cast<double>(axis.count - 1);
-    const double unit = std::ldexp(1.0, -exponentAbove(last));
+    const double unit = unitOfGrid(axis.count);
     for (std::size_t n = 0; n < count; ++n) {
       t.high[n] = (2.0 * static_cast<double>(first + n) - last) * unit;
       t.low[n] = 0.0;
@@ -90,14 +92,11 @@ bool coordinates(const AxisData& axis, const AxisFrame& frame, const PairSums& s
     exact = sums.typedLows(values, count, t.low);
   else
     std::fill_n(t.low, count, 0.0);
-  const double unit = std::ldexp(1.0, frame.exponent);
-  const double middle = frame.middle.high;
-  for (std::size_t n = 0; n < count; ++n) {
-    const Pair difference = twoSum(values[n], -middle);
-    const Pair exactly = quickTwoSum(difference.high, difference.low + t.low[n]);
-    t.high[n] = exactly.high * unit;
-    t.low[n] = exactly.low * unit;
-  }
+  std::copy_n(values, count, t.high);
+  const std::size_t padded = paddedToChains(count);
+  std::fill(t.high + count, t.high + padded, frame.middle.high);
+  std::fill(t.low + count, t.low + padded, frame.middle.low);
+  sums.coordinates(t, frame.middle, frame.scale, std::ldexp(1.0, frame.exponent), padded, t);
   return exact;
 }
 

@@ -8,7 +8,7 @@
 namespace tavimor {
 
 /// The coordinate of an axis in which its basis is made: t = (x - middle) * scale * 2^exponent, |t| <= 1.
-/// Equally spaced values have t = (2 i - (count - 1)) / 2^s, exactly; for others the scale is 1 and t is a pair.
+/// Equally spaced values have t = (2 i - (count - 1)) unitOfGrid, exactly; for others t is a pair.
 struct AxisFrame {
   Pair middle;
   Pair scale = 1.0;  // from 1/2 to 1
@@ -22,9 +22,17 @@ struct AxisFrame {
 
 AxisFrame axisFrame(const AxisData& axis);
 
-/// The coordinates of `count` values from number `first` on. True where the values are doubles exactly.
+/// The coordinates of `count` values from number `first` on; t has room for a multiple of kChains. True where the
+/// values are doubles exactly.
 bool coordinates(const AxisData& axis, const AxisFrame& frame, const PairSums& sums, std::size_t first,
                  std::size_t count, Pairs t);
+
+/// The coordinates of `count` equally spaced values are the odd or the even whole numbers from 1 - count to count - 1
+/// times this power of two.
+double unitOfGrid(std::size_t count);
+
+/// Whether equally spaced values are doubles exactly, all of them.
+bool isExactlySpaced(const AxisData& axis);
 
 /// The coordinate of any number, and the error of that at most.
 Pair coordinateOf(const AxisFrame& frame, const Pair& x);

@@ -116,8 +116,9 @@ FunctionContraction contracted(const FunctionValues& function, const PerVariable
   const PairSums& sums = pairSums(options.instructionSet);
   const Lines lines = linesAlong(extent, k);
   // One of each for a group of lines, put together in the order of groups.
-  std::vector<ChainSum> squares((lines.count + kLinesTogether - 1) / kLinesTogether);
-  std::vector<char> exact(squares.size(), 1);
+  const std::size_t groups = (lines.count + kLinesTogether - 1) / kLinesTogether;
+  ChainSums squares(groups);
+  std::vector<char> exact(groups, 1);
   FunctionContraction result;
   result.table = contractLines(
       extent, k, matrix,
@@ -126,10 +127,10 @@ FunctionContraction contracted(const FunctionValues& function, const PerVariable
         const std::size_t count = tile.pointCount * tile.lanes;
         if (!finishBlock(function, sums, block, count)) exact[group] = 0;
         for (std::size_t n = 0; n < count; n += kMostDotted)
-          sums.dot(block + n, block + n, std::min(kMostDotted, count - n), squares[group].chains());
+          sums.dots(block + n, block + n, 0, 1, std::min(kMostDotted, count - n), squares.from(group));
       },
       options);
-  for (const ChainSum& sum : squares) result.sumOfSquares = result.sumOfSquares + sum.total();
+  for (std::size_t group = 0; group < groups; ++group) result.sumOfSquares = result.sumOfSquares + squares.total(group);
   result.exactValues = std::all_of(exact.begin(), exact.end(), [](char one) { return one != 0; });
   return result;
 }

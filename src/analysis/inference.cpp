@@ -39,7 +39,8 @@ FitStatistics statisticsOfSums(std::size_t points, std::size_t terms, const Boun
   const double n = static_cast<double>(points), freedom = n - static_cast<double>(terms);
   statistics.rss = rss;
   statistics.rms = std::sqrt(rss / n);
-  if (tss > 0) statistics.rSquared = 1 - rss / tss;
+  // In pairs: of a fit that explains little, 1 - RSS / TSS would lose digits.
+  if (tss > 0) statistics.rSquared = rss == 0 ? 1.0 : ((totalSum.value - residualSum.value) / totalSum.value).high;
   if (statistics.noFreedom) return statistics;
   statistics.s = std::sqrt(rss / freedom);
   statistics.gcv = n * rss / (freedom * freedom);

@@ -1,24 +1,11 @@
 #pragma once
 
-#include "analysis/axis_basis.h"
-#include "analysis/function_values.h"
+#include "analysis/axis_parts.h"
 
 namespace tavimor {
 
-/// From so many values on, the one axis of a problem of one variable is streamed through its recurrence: nothing of
-/// the size values * terms is stored.
-constexpr std::size_t kLongAxis = 16384;
-
-/// What one pass over a long axis and its function gives.
-struct LongAxisSums {
-  AxisBasis basis;      // without the values
-  std::vector<Pair> y;  // the inner products of the polynomials and the function
-  Pair sumOfSquares;
-  bool exactFunction = false;
-};
-
-/// Equally spaced values have the discrete Chebyshev polynomials, whose norms are known, and two values that lie
-/// opposite each other share the work. For other values the inner products of the polynomials are summed too.
+/// Values that lie on a grid but for their last digits have the discrete Chebyshev polynomials: see grid_axis.h. For
+/// other values the inner products of the polynomials are summed too.
 /// Errors: OutOfMemory, AnalysisCancelled.
 LongAxisSums longAxisSums(const AxisData& axis, const FunctionValues& function, const AnalysisOptions& options);
 
@@ -34,7 +21,7 @@ void forEachBlock(const AxisData& axis, const AxisBasis& basis, const PairSums& 
   for (std::size_t first = 0; first < axis.count; first += kMostDotted) {
     const std::size_t count = axis.count - first < kMostDotted ? axis.count - first : kMostDotted;
     coordinates(axis, basis.frame, sums, first, count, t);
-    for (std::size_t n = 0; n < kMostDotted; ++n) polynomials.high[n] = n < count ? 1.0 : 0.0;
+    beginPolynomials(count, polynomials);
     fillPolynomials(basis.recurrence, sums, Pairs(t), kMostDotted, polynomials, largest);
     visit(first, count, ConstPairs(Pairs(polynomials)));
   }

@@ -11,9 +11,10 @@ extern const PairSums kPairSumsAvx2;
 extern const PairSums kPairSumsAvx512;
 #endif
 
-Pair ChainSum::total() const {
+Pair ChainSums::total(std::size_t n) const {
   Pair sum;
-  for (std::size_t n = 0; n < kChains; ++n) sum = sum + Pair(high_[n], low_[n]);
+  for (std::size_t chain = n * kChains; chain < (n + 1) * kChains; ++chain)
+    sum = sum + Pair(chains_.high[chain], chains_.low[chain]);
   return sum;
 }
 

@@ -48,15 +48,16 @@ struct PairList {
   std::vector<double> high, low;
 };
 
-/// A sum that `dot` adds to.
-class ChainSum {
+/// Sums that `dots` adds to, each of kChains chains.
+class ChainSums {
  public:
-  Pairs chains() { return {high_, low_}; }
-  Pair total() const;
+  explicit ChainSums(std::size_t count) : chains_(count * kChains) {}
+
+  Pairs from(std::size_t first) { return Pairs(chains_) + first * kChains; }
+  Pair total(std::size_t n) const;
 
  private:
-  double high_[kChains] = {};
-  double low_[kChains] = {};
+  PairList chains_;
 };
 
 /// The numbers of one step of a three-term recurrence: next = scale * (t - shift) * current - back * previous.
@@ -64,6 +65,17 @@ struct RecurrenceStep {
   double shift;
   double scale;  // a power of two
   Pair back;
+};
+
+/// The weights that deviations d give a factor at places opposite each other, f d of first order and f d^2/2 of second:
+/// their sums and differences.
+struct FoldedWeights {
+  double firstSum[kMostDotted], firstDifference[kMostDotted], secondSum[kMostDotted], secondDifference[kMostDotted];
+};
+
+/// Values with two weights each.
+struct WeightedRow {
+  const double *values, *first, *second;
 };
 
 /// The routines for one instruction set. Counts named so are multiples of kChains.
@@ -79,13 +91,39 @@ struct PairSums {
   void (*contract)(ConstPairs table, std::size_t points, std::size_t lanes, const Pair* matrix,
                    std::size_t matrixColumns, std::size_t columns, Pairs sums);
 
-  /// sums[chain] += the products of a and b, of which every kChains-th belongs to the same chain; at most
-  /// kMostDotted of them.
-  void (*dot)(ConstPairs a, ConstPairs b, std::size_t count, Pairs sums);
+  /// The products of a with each of some columns, of which every kChains-th belongs to the same chain, at most
+  /// kMostDotted of them: sums[c][chain] += sum of a[n] * columns[c * stride + n].
+  void (*dots)(ConstPairs a, ConstPairs columns, std::size_t stride, std::size_t columnCount, std::size_t count,
+               Pairs sums);
+
+  /// The same in doubles for two weights: firstSums[c][chain] += sum of row.first[n] * row.values[n] *
+  /// columns[c * stride + n], and secondSums with row.second.
+  void (*weightedDots)(const WeightedRow& row, const double* columns, std::size_t stride, std::size_t columnCount,
+                       std::size_t count, double* firstSums, double* secondSums);
+
+  /// Of rows of kMostDotted values, each with itself, times the sums of the weights, and with the row before, times
+  /// their differences: sums[row] has kChains of the first and of the second order of the one, and as many of the
+  /// other. The first row has none before and is taken for that.
+  void (*neighbourDots)(const FoldedWeights& weights, const double* rows, std::size_t rowCount, double* sums);
+
+  /// t = (x - middle) * scale * unit at `count` places; unit is a power of two.
+  void (*coordinates)(ConstPairs x, const Pair& middle, const Pair& scale, double unit, std::size_t count, Pairs t);
+
+  /// How far values lie from a grid, (x - (middle + t * width)) * unit. Returns the largest magnitude.
+  double (*deviations)(ConstPairs x, const double* t, const Pair& middle, const Pair& width, double unit,
+                       std::size_t count, double* result);
+
+  /// Of kMostDotted deviations and factors on each side.
+  void (*foldWeights)(const double* front, const double* frontFactor, const double* back, const double* backFactor,
+                      FoldedWeights& weights);
 
   /// One step of the recurrence at `count` places t. Returns the largest magnitude among the results.
   double (*advance)(const RecurrenceStep& step, ConstPairs t, ConstPairs current, ConstPairs previous,
                     std::size_t count, Pairs next);
+
+  /// The same where the coordinates are doubles and the step has no shift.
+  double (*advanceOnGrid)(const RecurrenceStep& step, const double* t, ConstPairs current, ConstPairs previous,
+                          std::size_t count, Pairs next);
 
   /// sum = a + b and difference = a - b, number by number.
   void (*sumAndDifference)(ConstPairs a, ConstPairs b, std::size_t count, Pairs sum, Pairs difference);

@@ -1,7 +1,6 @@
 #include <immintrin.h>
 
-#include <cstring>
-
+#include "analysis/digit_scales.h"
 #include "analysis/pair_sums.h"
 #include "analysis/typed_value.h"
 

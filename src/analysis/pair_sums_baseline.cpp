@@ -1,5 +1,5 @@
-#include <cstring>
 
+#include "analysis/digit_scales.h"
 #include "analysis/pair_sums.h"
 #include "analysis/typed_value.h"
 

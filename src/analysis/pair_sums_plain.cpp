@@ -1,5 +1,7 @@
-#include <cstring>
+#include <bit>
+#include <cstdint>
 
+#include "analysis/digit_scales.h"
 #include "analysis/pair_sums.h"
 #include "analysis/typed_value.h"
 
@@ -15,6 +17,10 @@ TAVIMOR_INLINE Vector load(const double* from) { return *from; }
 TAVIMOR_INLINE void store(double* to, Vector value) { *to = value; }
 TAVIMOR_INLINE Vector spread(double value) { return value; }
 TAVIMOR_INLINE Vector select(bool mask, Vector a, Vector b) { return mask ? a : b; }
+
+using Exponents = std::uint64_t;
+TAVIMOR_INLINE Exponents exponentBits(Vector value) { return std::bit_cast<Exponents>(value) >> 52 & 0x7FF; }
+TAVIMOR_INLINE Vector lookUp(const double* table, Exponents index) { return table[index]; }
 #include "analysis/split_product.inc"
 
 #include "analysis/pair_sums.inc"

@@ -19,7 +19,7 @@ std::vector<double> powerSums(const AxisData& axis, const AxisBasis& basis, doub
   const std::size_t count = std::min(axis.count, kMostSampled);
   const double weight = static_cast<double>(axis.count) / static_cast<double>(count);
   std::vector<double> result(2 * basis.terms - 1);
-  PairList t(1);
+  PairList t(kChains);
   for (std::size_t n = 0; n < count; ++n) {
     const std::size_t i = count == axis.count ? n : n * (axis.count - 1) / (count - 1);
     coordinates(axis, basis.frame, sums, i, 1, t);

@@ -26,16 +26,10 @@ Pair timesPowerOfTen(double value, int exponent) {
   return exponent >= 0 ? powerOfTen(exponent) * Pair(value) : Pair(value) / powerOfTen(-exponent);
 }
 
-// The remainder of a correctly rounded quotient is a double.
-Pair quotientByExactPower(double dividend, double power) {
-  const double quotient = dividend / power;
-  const Pair product = twoProduct(quotient, power);
-  return {quotient, ((dividend - product.high) - product.low) / power};
-}
-
-Pair decimal(double digits, int exponent) {
-  if (exponent < 0 && -exponent <= kExactPower) return quotientByExactPower(digits, exactPowerOfTen(-exponent));
-  return timesPowerOfTen(digits, exponent);
+// The decimal digits / power beside the value next to it: their difference is one of numbers that nearly agree.
+Pair decimalBeside(double value, double digits, double power) {
+  const Pair product = twoProduct(value, power);
+  return {value, ((digits - product.high) - product.low) / power};
 }
 
 // The decimal that reads back as the value; nothing where there is none.
@@ -45,8 +39,10 @@ std::optional<Pair> decimalOf(double value) {
   int places = 16 - static_cast<int>(std::floor(std::log10(size)));  // one or two too many
   double digits = kMostDigits;
   while (std::fabs(digits) >= kMostDigits) digits = std::nearbyint(timesPowerOfTen(value, --places).high);
-  const Pair typed = decimal(digits, -places);
-  if (typed.high != value) return std::nullopt;
+  const bool isExactPower = places > 0 && places <= kExactPower;
+  const Pair typed =
+      isExactPower ? decimalBeside(value, digits, exactPowerOfTen(places)) : timesPowerOfTen(digits, -places);
+  if (typed.high != value || typed.high + typed.low != value) return std::nullopt;
   return typed;
 }
 

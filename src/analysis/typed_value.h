@@ -13,8 +13,8 @@ enum class Reading {
 /// The number that a double stands for. Read as typed, a double which its own decimal of 15 significant digits gives
 /// back stands for that decimal: 0.1 is a tenth, and not 0.1000000000000000055. Every other double, and one whose
 /// magnitude is not between 1E-250 and 1E250, stands for itself.
-/// The relative error of the pair is at most kTypedError: it takes up to a dozen products to reach a far power of ten,
-/// and the rest is there to be generous.
+/// The relative error of the pair is at most kTypedError: docs/numerics.md counts the roundings. From 1E-8 to 1E37 it
+/// is u^2, that of the low part alone.
 Pair typedValue(double value);
 Pair valueRead(double value, Reading reading);
 
@@ -22,7 +22,7 @@ Pair valueRead(double value, Reading reading);
 double typedLow(double value);
 bool isExactDecimal(double value);
 
-constexpr double kTypedError = 256 * kPairError;
+constexpr double kTypedError = 12 * kPairError;  // 11 products and a quotient, to reach 10^264
 
 /// The middle between two numbers.
 Pair middleOf(const Pair& lower, const Pair& upper);

@@ -10,7 +10,6 @@
 #include "analysis/statistic_texts.h"
 #include "support/exact_fit.h"
 #include "support/example.h"
-#include "support/known_fits.h"
 #include "support/problem.h"
 
 namespace tavimor {
@@ -220,33 +219,6 @@ TEST(FitStatistics, AConstantFunctionHasNoCorrelation) {
   test::tabulate(model, [](double, double, double, double) { return 7.0; });
   EXPECT_FALSE(statisticsOf(model).rSquared);
 }
-
-class CertifiedDeviations : public testing::TestWithParam<std::pair<const char*, const char*>> {};
-
-TEST_P(CertifiedDeviations, AreReachedToFourteenDigits) {
-  test::Example example(GetParam().first);
-  for (SpecFields& fields : example.fields) fields.txtExpansion = "0";
-  CaptureSpecs(example.model, example.fields);
-  const ProblemData data = problemData(example.model);
-  const PreciseFit fit = preciseFit(decompose(data), centresOf(data));
-  const FitStatistics statistics = fitStatisticsOf(fit);
-  const auto deviations = test::certifiedDeviations(GetParam().second);
-  ASSERT_EQ(deviations.size(), fit.termCount());
-  for (const auto& [power, certified] : deviations) {
-    const double error = *inferenceOf(fit.coefficients[power[0]], statistics, 0.95).standardError;
-    EXPECT_LE(std::fabs(error - static_cast<double>(certified)), 1e-14 * static_cast<double>(certified)) << power[0];
-  }
-  const double certified = static_cast<double>(test::knownResult(GetParam().second).statistics.at("r2"));
-  EXPECT_NEAR(*statistics.rSquared, certified, 2e-15);
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Sets, CertifiedDeviations,
-    testing::Values(std::pair("ozone", "nist_norris"), std::pair("load-cell", "nist_pontius"),
-                    std::pair("nist/filip", "nist_filip"), std::pair("nist/wampler1", "nist_wampler1"),
-                    std::pair("nist/wampler2", "nist_wampler2"), std::pair("nist/wampler3", "nist_wampler3"),
-                    std::pair("nist/wampler4", "nist_wampler4"), std::pair("nist/wampler5", "nist_wampler5")),
-    [](const auto& one) { return std::string(one.param.second); });
 
 TEST(Distributions, AreThoseOfTheTables) {
   EXPECT_NEAR(studentQuantile(0.95, 10), 2.228138852, 1e-9);

@@ -76,13 +76,13 @@ TEST(PairSums, ContractionsAreTheSameEverywhereAndRight) {
 TEST(PairSums, DotProductsAreTheSameEverywhere) {
   PairList a = randomPairs(kMostDotted, 3), b = randomPairs(kMostDotted, 4);
   for (const std::size_t count : {kChains, 5 * kChains, kMostDotted}) {
-    ChainSum wanted;
-    pairSums(InstructionSet::Plain).dot(Pairs(a), Pairs(b), count, wanted.chains());
+    ChainSums wanted(1);
+    pairSums(InstructionSet::Plain).dots(Pairs(a), Pairs(b), 0, 1, count, wanted.from(0));
     for (const PairSums* sums : availableSets()) {
-      ChainSum got;
-      sums->dot(Pairs(a), Pairs(b), count, got.chains());
-      EXPECT_EQ(got.total().high, wanted.total().high);
-      EXPECT_EQ(got.total().low, wanted.total().low);
+      ChainSums got(1);
+      sums->dots(Pairs(a), Pairs(b), 0, 1, count, got.from(0));
+      EXPECT_EQ(got.total(0).high, wanted.total(0).high);
+      EXPECT_EQ(got.total(0).low, wanted.total(0).low);
     }
   }
 }

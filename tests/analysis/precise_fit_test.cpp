@@ -5,10 +5,7 @@
 #include <cmath>
 #include <limits>
 
-#include "analysis/long_axis.h"
-#include "support/exact_fit.h"
 #include "support/example.h"
-#include "support/known_fits.h"
 #include "support/problem.h"
 
 namespace tavimor {
@@ -71,24 +68,6 @@ TEST(PreciseFit, AsManyTermsAsPointsLeaveNoResidual) {
   EXPECT_LE(std::fabs(fit.residualSum.rounded()), fit.residualSum.bound);
 }
 
-TEST(PreciseFit, ALongAxisGivesWhatExactArithmeticGives) {
-  for (const bool spaced : {true, false})
-    for (const Long extra : {0, 1}) {
-      const int count = static_cast<int>(kLongAxis + extra);
-      Dimension model = line(test::spaced(-1, 1.5, count), 4);
-      model.EquallySpaced[0] = spaced;
-      test::tabulate(model, [](double x, double, double, double) { return std::exp(x); });
-      const PreciseFit fit = fitOf(model);
-      const auto exact = test::exactFit(test::exactData(model, Reading::AsTyped));
-      ASSERT_TRUE(exact);
-      for (std::size_t n = 0; n < fit.termCount(); ++n) {
-        const Bounded& one = fit.coefficients[n].solution;
-        EXPECT_LT(test::distance(one.value, exact->coefficients[n]), one.bound * std::pow(10, -3.5)) << n;
-        EXPECT_LT(one.bound, 1e-20 * std::fabs(one.rounded()));
-      }
-    }
-}
-
 TEST(PreciseFit, TheSpreadIsTheRootOfTheInverseNormalMatrix) {
   const Dimension model = line({0, 1, 2, 3, 4}, 1);
   const PreciseFit fit = fitOf(model);
@@ -111,46 +90,6 @@ TEST(PreciseFit, TermsThatTheDataLackAreNoise) {
   EXPECT_TRUE(fit.coefficients[2].isNoise());
   EXPECT_TRUE(fit.coefficients[3].isNoise());
 }
-
-struct NistSet {
-  const char* example;
-  const char* table;
-};
-
-class CertifiedCoefficients : public testing::TestWithParam<NistSet> {};
-
-// The certified numbers have 15 digits, written in full; the precise ones rounded to as many are the same, or the
-// sixteenth digit decides.
-TEST_P(CertifiedCoefficients, AreAllReached) {
-  test::Example example(GetParam().example);
-  for (SpecFields& fields : example.fields) fields.txtExpansion = "0";
-  CaptureSpecs(example.model, example.fields);
-  const PreciseFit fit = fitOf(example.model);
-  ASSERT_EQ(fit.finding.verdict, Verdict::Exact);
-  const auto known = test::knownResult(GetParam().table);
-  EXPECT_EQ(known.coefficients.size(), fit.termCount());
-  for (const auto& [power, certified] : known.coefficients) {
-    const long double precise = fit.coefficients[power[0]].solution.value.high;
-    EXPECT_LE(std::fabs(precise - certified), 1e-14L * std::fabs(certified)) << power[0];
-  }
-  const double degrees = static_cast<double>(fit.points - fit.termCount());
-  const double deviation = std::sqrt(std::max(0.0, fit.residualSum.rounded()) / degrees);
-  const double certified = static_cast<double>(known.statistics.at("rsd"));
-  if (certified > 0) {
-    EXPECT_LE(std::fabs(deviation - certified), 1e-14 * certified);
-  } else {
-    EXPECT_LE(std::fabs(fit.residualSum.rounded()), fit.residualSum.bound);
-  }
-}
-
-INSTANTIATE_TEST_SUITE_P(Sets, CertifiedCoefficients,
-                         testing::Values(NistSet{"ozone", "nist_norris"}, NistSet{"load-cell", "nist_pontius"},
-                                         NistSet{"nist/filip", "nist_filip"}, NistSet{"nist/wampler1", "nist_wampler1"},
-                                         NistSet{"nist/wampler2", "nist_wampler2"},
-                                         NistSet{"nist/wampler3", "nist_wampler3"},
-                                         NistSet{"nist/wampler4", "nist_wampler4"},
-                                         NistSet{"nist/wampler5", "nist_wampler5"}),
-                         [](const auto& one) { return std::string(one.param.table); });
 
 }  // namespace
 }  // namespace tavimor

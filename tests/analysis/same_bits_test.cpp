@@ -87,6 +87,13 @@ TEST(SameBits, OfLongAxes) {
     }
 }
 
+TEST(SameBits, OfLongAxesThatAreEqualButForTheLastDigits) {
+  Dimension model = someProblem({static_cast<int>(kLongAxis) + 1}, 6, true);
+  model.EquallySpaced[0] = false;
+  for (const Reading reading : {Reading::AsTyped, Reading::AsStored})
+    expectSameBitsEverywhere(problemData(model, reading));
+}
+
 TEST(SameBits, OfValuesTooSmallAndTooLargeForTheErrorTerms) {
   Dimension model = someProblem({30}, 3, false);
   for (std::size_t n = 0; n < model.F.size(); ++n) model.F.data()[n] *= n % 2 == 0 ? 1e-280 : 1e200;

@@ -1,0 +1,27 @@
+#include "analysis/axis_parts.h"
+
+namespace tavimor {
+
+LongAxisSums::LongAxisSums(const AxisBasis& emptyBasis)
+    : magnitudes(emptyBasis.terms), basis(emptyBasis), y(emptyBasis.terms) {
+  basis.exactValues = true;
+}
+
+void LongAxisSums::add(const PartSums& part) {
+  for (std::size_t j = 0; j < part.largest.size(); ++j)  // a NaN, which is not the larger of two, must not be lost
+    magnitudes.largest[j] = part.largest[j] <= magnitudes.largest[j] ? magnitudes.largest[j] : part.largest[j];
+  magnitudes.largestCoordinate = std::max(magnitudes.largestCoordinate, part.largestCoordinate);
+  sumOfSquares = sumOfSquares + part.squares.total(0);
+  exactFunction = exactFunction && part.exactFunction;
+  basis.exactValues = basis.exactValues && part.exactValues;
+}
+
+void readFunctionBlock(const FunctionValues& function, const PairSums& sums, std::size_t first, std::size_t count,
+                       PairList& block, PartSums& part) {
+  std::copy_n(function.values + first, count, block.high.begin());
+  std::fill(block.high.begin() + static_cast<std::ptrdiff_t>(count), block.high.end(), 0.0);
+  part.exactFunction = finishBlock(function, sums, block, kMostDotted) && part.exactFunction;
+  sums.dots(Pairs(block), Pairs(block), 0, 1, kMostDotted, part.squares.from(0));
+}
+
+}  // namespace tavimor

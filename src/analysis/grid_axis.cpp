@@ -1,0 +1,195 @@
+#include "analysis/grid_axis.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "analysis/deviation_sums.h"
+
+namespace tavimor {
+
+namespace {
+
+constexpr std::size_t kLookedAt = 64;  // values, before all are
+
+static_assert(2 * kMostCompleted * kMostCompleted < kLongAxis);  // see DeviationGains::error
+
+struct GridSums : PartSums {
+  explicit GridSums(std::size_t terms) : PartSums(terms), deviations(terms) {}
+
+  DeviationSums deviations;
+};
+
+// The buffers of one thread and what it does with a block of places and those opposite to them.
+class GridBlocks {
+ public:
+  GridBlocks(const AxisData& axis, const AxisBasis& basis, const FunctionValues& function, const PairSums& sums)
+      : axis_(axis),
+        basis_(basis),
+        function_(function),
+        sums_(sums),
+        width_(Pair(1.0) / scaled(basis.frame.scale, basis.frame.exponent)),
+        polynomials_(kMostDotted * axis.terms) {
+    for (std::size_t n = 0; n < kMostDotted; ++n) steps_[n] = 2.0 * static_cast<double>(n);
+  }
+
+  void operator()(std::size_t first, std::size_t count, GridSums& part) {
+    const std::size_t opposite = axis_.count - first - count;
+    // The value in the middle is not opposite to another one.
+    const std::size_t shared = opposite < first + count ? count - 1 : count;
+    fillBasis(first, count, part);
+    readFunctionBlock(function_, sums_, first, count, front_, part);
+    readFunctionBlock(function_, sums_, axis_.count - first - shared, shared, back_, part);
+    std::reverse(back_.high.begin(), back_.high.begin() + static_cast<std::ptrdiff_t>(shared));
+    std::reverse(back_.low.begin(), back_.low.begin() + static_cast<std::ptrdiff_t>(shared));
+    addFunction(part);
+    if (!axis_.equallySpaced()) addDeviations(first, count, shared, part);
+  }
+
+ private:
+  void fillBasis(std::size_t first, std::size_t count, PartSums& part) {
+    const double unit = unitOfGrid(axis_.count);
+    const double start = 2.0 * static_cast<double>(first) - static_cast<double>(axis_.count - 1);
+    for (std::size_t n = 0; n < count; ++n) t_[n] = (start + steps_[n]) * unit;
+    std::fill(t_.begin() + static_cast<std::ptrdiff_t>(count), t_.end(), 0.0);
+    beginPolynomials(count, polynomials_);
+    part.largestCoordinate = std::max(part.largestCoordinate, std::fabs(t_[0]));
+    const Pairs all = polynomials_;
+    for (std::size_t j = 0; j < basis_.recurrence.size(); ++j) {
+      const Pairs current = all + j * kMostDotted, before = j > 0 ? all + (j - 1) * kMostDotted : all;
+      const double found = sums_.advanceOnGrid(basis_.recurrence[j], t_.data(), current, before, kMostDotted,
+                                               all + (j + 1) * kMostDotted);
+      part.largest[j + 1] = found <= part.largest[j + 1] ? part.largest[j + 1] : found;
+    }
+  }
+
+  // The even polynomials first, then the odd ones.
+  void addFunction(PartSums& part) {
+    sums_.sumAndDifference(Pairs(front_), Pairs(back_), kMostDotted, even_, odd_);
+    const ConstPairs all = Pairs(polynomials_);
+    const std::size_t evenCount = (axis_.terms + 1) / 2;
+    sums_.dots(Pairs(even_), all, 2 * kMostDotted, evenCount, kMostDotted, part.y.from(0));
+    sums_.dots(Pairs(odd_), all + kMostDotted, 2 * kMostDotted, axis_.terms / 2, kMostDotted, part.y.from(evenCount));
+  }
+
+  void addDeviations(std::size_t first, std::size_t count, std::size_t shared, GridSums& part) {
+    const double* values = axis_.values.data();
+    std::copy_n(values + first, count, x_.high.begin());
+    const double inFront = deviationsOf(count, width_, frontDeviation_, part);
+    const double* behind = values + (axis_.count - first - shared);
+    std::reverse_copy(behind, behind + shared, x_.high.begin());
+    const double inBack = deviationsOf(shared, -width_, backDeviation_, part);
+    part.deviations.largest = std::max({part.deviations.largest, inFront, inBack});
+    part.deviations.add(sums_, {frontDeviation_.data(), backDeviation_.data(), front_.high.data(), back_.high.data()},
+                        polynomials_.high.data());
+  }
+
+  // Behind the end, as at the middle place, a value in the middle has no deviation.
+  double deviationsOf(std::size_t count, const Pair& width, std::vector<double>& deviation, PartSums& part) {
+    const AxisFrame& frame = basis_.frame;
+    if (axis_.reading == Reading::AsTyped)
+      part.exactValues = sums_.typedLows(x_.high.data(), count, x_.low.data()) && part.exactValues;
+    else
+      part.exactValues = false;
+    std::fill(x_.high.begin() + static_cast<std::ptrdiff_t>(count), x_.high.end(), frame.middle.high);
+    std::fill(x_.low.begin() + static_cast<std::ptrdiff_t>(count), x_.low.end(), frame.middle.low);
+    const double unit = std::ldexp(frame.scale.high, frame.exponent);
+    return sums_.deviations(Pairs(x_), t_.data(), frame.middle, width, unit, kMostDotted, deviation.data());
+  }
+
+  const AxisData& axis_;
+  const AxisBasis& basis_;
+  const FunctionValues& function_;
+  const PairSums& sums_;
+  Pair width_;  // of the coordinate's unit
+  std::vector<double> t_ = std::vector<double>(kMostDotted), steps_ = t_, frontDeviation_ = t_, backDeviation_ = t_;
+  PairList x_{kMostDotted}, polynomials_, front_{kMostDotted}, back_{kMostDotted}, even_{kMostDotted},
+      odd_{kMostDotted};
+};
+
+PairMatrix productsOnGrid(const AxisData& axis) {
+  PairMatrix products(axis.terms, axis.terms);
+  const std::vector<Pair> norms = squaredNormsOfSpaced(axis.count, axis.terms);
+  for (std::size_t j = 0; j < axis.terms; ++j) products(j, j) = norms[j];
+  return products;
+}
+
+// Whether some of the values lie where a grid from the first to the last one has them.
+bool looksLikeGrid(const AxisData& axis) {
+  const double first = axis.values.front(), last = axis.values.back();
+  const double step = (last - first) / static_cast<double>(axis.count - 1);
+  const double rounding = 8 * kUnitRoundoff * std::max(std::fabs(first), std::fabs(last));
+  for (std::size_t n = 0; n < kLookedAt; ++n) {
+    const std::size_t i = n * (axis.count - 1) / (kLookedAt - 1);
+    const double deviation = axis.values[i] - (first + static_cast<double>(i) * step);
+    if (!(std::fabs(deviation) <= kMostDeviation * std::fabs(last - first) + rounding)) return false;
+  }
+  return true;
+}
+
+// The axis as a grid from its first value to its last one.
+AxisData gridOf(const AxisData& axis) {
+  AxisData grid = axis;
+  if (axis.equallySpaced()) return grid;
+  grid.values = {};
+  grid.lower = valueRead(axis.values.front(), axis.reading);
+  grid.upper = valueRead(axis.values.back(), axis.reading);
+  return grid;
+}
+
+AxisBasis gridBasis(const AxisData& axis) {
+  AxisBasis basis = framedBasis(gridOf(axis));
+  if (!axis.equallySpaced())
+    basis.frame.coordinateError =
+        (kTypedError + 2 * kPairError) * std::ldexp(basis.frame.largestValue, basis.frame.exponent) + 8 * kPairError;
+  if (basis.frame.usable) basis.recurrence = recurrenceOfSpaced(axis.count, axis.terms);
+  return basis;
+}
+
+bool finish(const AxisData& axis, const std::vector<GridSums>& parts, std::size_t addends,
+            const AnalysisOptions& options, LongAxisSums& result) {
+  const std::size_t evenCount = (axis.terms + 1) / 2;
+  DeviationSums deviations(axis.terms);
+  for (const GridSums& part : parts) {
+    result.add(part);
+    deviations.add(part.deviations);
+    for (std::size_t j = 0; j < axis.terms; ++j)
+      result.y[j] = result.y[j] + part.y.total(j / 2 + (j % 2 == 0 ? 0 : evenCount));
+  }
+  PairMatrix products = productsOnGrid(axis);
+  double normError = 4 * static_cast<double>(axis.terms) * kPairError + sumError(axis.count);
+  if (axis.equallySpaced()) {
+    result.basis.exactValues = isExactlySpaced(axis);
+  } else {
+    const DeviationGains gains(deviations, result.basis.recurrence);
+    const auto error =
+        gains.error(addends, *std::max_element(result.magnitudes.largest.begin(), result.magnitudes.largest.end()));
+    if (!error) return false;
+    normError += *error;
+    result.magnitudes.further = *error;
+    for (std::size_t j = 0; j < axis.terms; ++j) {
+      result.y[j] = result.y[j] + Pair(gains.ofFunction(j));
+      for (std::size_t k = 0; k < axis.terms; ++k) products(j, k) = products(j, k) + Pair(gains.ofProduct(j, k));
+    }
+  }
+  orthonormalise(result.basis, products, normError, result.magnitudes, options);
+  return true;
+}
+
+}  // namespace
+
+std::optional<LongAxisSums> gridAxisSums(const AxisData& axis, const FunctionValues& function,
+                                         const AnalysisOptions& options) {
+  if (!axis.equallySpaced() && (axis.terms > kMostCompleted || !looksLikeGrid(axis))) return std::nullopt;
+  LongAxisSums result(gridBasis(axis));
+  if (!result.basis.frame.usable) return axis.equallySpaced() ? std::optional(result) : std::nullopt;
+  const AxisParts cut((axis.count + 1) / 2);
+  std::vector<GridSums> parts(cut.count(), GridSums(axis.terms));
+  const double terms = static_cast<double>(axis.terms);
+  sumParts(cut, 40 * terms, options, parts,
+           [&] { return GridBlocks(axis, result.basis, function, pairSums(options.instructionSet)); });
+  const std::size_t addends = kBlock + kChains + cut.blocksOfPart + cut.count();
+  if (!finish(axis, parts, addends, options, result)) return std::nullopt;
+  return result;
+}
+
+}  // namespace tavimor
