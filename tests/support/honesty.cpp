@@ -143,6 +143,20 @@ void judgeCoefficient(const PreciseCoefficient& coefficient, double listed, bool
     honesty.fewestDigits = std::min(honesty.fewestDigits, log10Of(exact) - error);
 }
 
+// With a comma behind each thousand.
+std::string grouped(std::size_t count) {
+  std::string text = std::to_string(count);
+  for (std::size_t n = text.size(); n > 3;) text.insert(n -= 3, ",");
+  return text;
+}
+
+std::string oneDecimal(double value) {
+  const double tenths = std::round(10 * value);
+  const std::string sign = tenths < 0 ? "-" : "";
+  const long whole = std::lround(std::fabs(tenths));
+  return sign + std::to_string(whole / 10) + "." + std::to_string(whole % 10);
+}
+
 }  // namespace
 
 JudgedProblem randomJudgedProblem(std::mt19937_64& random) { return Maker(random).problem(); }
@@ -157,6 +171,16 @@ void Honesty::add(const Honesty& other) {
   mostClaimedTooHigh = std::max(mostClaimedTooHigh, other.mostClaimedTooHigh);
   mostErrorOverBound = std::max(mostErrorOverBound, other.mostErrorOverBound);
   fewestDigits = std::min(fewestDigits, other.fewestDigits);
+}
+
+std::vector<std::pair<std::string, std::string>> rowsOf(const Honesty& honesty) {
+  return {{"problems, thereof singular", grouped(honesty.problems) + ", " + grouped(honesty.singular)},
+          {"wrong verdicts on singularity", grouped(honesty.wrongVerdicts)},
+          {"not certified", grouped(honesty.notCertified)},
+          {"coefficients compared, thereof noise", grouped(honesty.coefficients) + ", " + grouped(honesty.noise)},
+          {"most that claimed right digits were above the true ones", oneDecimal(honesty.mostClaimedTooHigh)},
+          {"largest error over its bound", "10^" + oneDecimal(honesty.mostErrorOverBound)},
+          {"fewest true digits of a precise coefficient that is no noise", oneDecimal(honesty.fewestDigits)}};
 }
 
 Honesty judged(JudgedProblem problem) {

@@ -1,6 +1,9 @@
 #pragma once
 
 #include <random>
+#include <string>
+#include <utility>
+#include <vector>
 
 #include "analysis/precise_fit.h"
 #include "model/Dimension.h"
@@ -28,6 +31,13 @@ struct Honesty {
 
   void add(const Honesty& other);
 };
+
+/// As the table of docs/numerics.md has it: what is measured, and the number or numbers.
+std::vector<std::pair<std::string, std::string>> rowsOf(const Honesty& honesty);
+
+/// The table is made from so many problems that are drawn one after the other from this seed.
+constexpr int kProblemsOfThePage = 10000;
+constexpr unsigned kSeedOfThePage = 20261121;
 
 /// Fits the problem, asks for the second opinion and compares both with the exact solution.
 Honesty judged(JudgedProblem problem);
