@@ -6,10 +6,15 @@ namespace tavimor {
 
 namespace {
 
+std::string refusalOfNothing(const std::string& text) { return text.empty() ? "a value is needed" : ""; }
+
 void addChanges(CLI::App& command, CommandOptions& options) {
-  command.add_option("--degree", options.degrees, "degrees in the place of the problem's, \"2,1\"")->type_name("D,...");
+  command.add_option("--degree", options.degrees, "degrees in the place of the problem's, \"2,1\"")
+      ->type_name("D,...")
+      ->check(refusalOfNothing);
   command.add_option("--centre,--center", options.centres, "centres in the place of the problem's, * for the middle")
-      ->type_name("C,...");
+      ->type_name("C,...")
+      ->check(refusalOfNothing);
 }
 
 void addLevel(CLI::App& command, CommandOptions& options) {
@@ -41,7 +46,9 @@ void addAnalyseOptions(CLI::App& analyse, CommandOptions& options) {
 }
 
 void addDegreesOptions(CLI::App& degrees, CommandOptions& options) {
-  degrees.add_option("--max", options.most, "the largest degrees (two more than the problem's)")->type_name("D,...");
+  degrees.add_option("--max", options.most, "the largest degrees (two more than the problem's)")
+      ->type_name("D,...")
+      ->check(refusalOfNothing);
   degrees.add_flag("--all", options.all, "also the combinations that another one beats in terms and in s");
   addReading(degrees, options);
 }

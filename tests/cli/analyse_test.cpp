@@ -128,6 +128,8 @@ TEST_F(AnalyseCommand, RefusesWhatDoesNotGoWithTheProblem) {
            {{"--level", "1"}, "--level: \"1\" is not between 0 and 1"},
            {{"--level", "x"}, "--level: \"x\" is not between 0 and 1"},
            {{"--centre", "0,0"}, "--centre: 2 numbers, but the problem has 1 variable"},
+           {{"--centre", ""}, "--centre: a value is needed"},
+           {{"--degree", ""}, "--degree: a value is needed"},
            {{"--centre", "near"}, "--centre: \"near\" is no number and not *"},
            {{"--degree", "3"}, "--degree: the degree of variable \"x\" (3) is not below its number of values (3)"},
            {{"--degree", "1.5"}, "--degree: \"1.5\" is no degree"}}) {
