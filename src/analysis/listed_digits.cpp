@@ -25,6 +25,12 @@ Bounded correlationOf(const PreciseFit& fit) {
   return rootOf(explained, fit.totalSum.value, fit.totalSum.bound);
 }
 
+// Nothing to count where a figure is 0 as far as can be told, and listed as such.
+std::optional<double> digitsOfFigure(double listed, const Bounded& precise) {
+  if (std::fabs(precise.value.high) <= precise.bound && std::fabs(listed) <= precise.bound) return std::nullopt;
+  return rightDigits(listed, precise);
+}
+
 }  // namespace
 
 ListedDigits listedDigits(const Fit& listed, const PreciseFit& precise) {
@@ -37,13 +43,13 @@ ListedDigits listedDigits(const Fit& listed, const PreciseFit& precise) {
     digits.worst = digits.coefficients[n];
     digits.worstCoefficient = n;
   }
-  digits.correlation = rightDigits(listed.CorrCoef, correlationOf(precise));
-  digits.residualSum = rightDigits(listed.SumRes2, precise.residualSum);
-  digits.averageGiven = rightDigits(listed.AvgGiven, precise.mean);
-  digits.averageEstimated = rightDigits(listed.AvgEstimated, precise.mean);
+  digits.correlation = digitsOfFigure(listed.CorrCoef, correlationOf(precise));
+  digits.residualSum = digitsOfFigure(listed.SumRes2, precise.residualSum);
+  digits.averageGiven = digitsOfFigure(listed.AvgGiven, precise.mean);
+  digits.averageEstimated = digitsOfFigure(listed.AvgEstimated, precise.mean);
   if (precise.points > 2) {
     const Pair divisor(static_cast<double>(precise.points) - 2);
-    digits.standardError = rightDigits(listed.StdErr, rootOf(precise.residualSum, divisor, 0.0));
+    digits.standardError = digitsOfFigure(listed.StdErr, rootOf(precise.residualSum, divisor, 0.0));
   }
   return digits;
 }

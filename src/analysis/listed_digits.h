@@ -15,8 +15,9 @@ struct ListedDigits {
   std::optional<double> correlation, standardError, residualSum, averageGiven, averageEstimated;
 };
 
-/// A figure that has no value is nothing: the standard error of two points.
-/// Errors: SubscriptOutOfRange where the fit has other degrees than the precise one.
+/// A figure that has no value is nothing: the standard error of two points, and a sum of squared residuals that is
+/// listed as 0 where it cannot be told from 0. Errors: SubscriptOutOfRange where the fit has other degrees than the
+/// precise one.
 ListedDigits listedDigits(const Fit& listed, const PreciseFit& precise);
 
 }  // namespace tavimor

@@ -87,6 +87,18 @@ TEST(ListedDigits, OfTheFiguresAreNeverTooMany) {
   }
 }
 
+TEST(ListedDigits, AZeroThatIsListedAsZeroHasNoneToCount) {
+  Dimension model = test::problem({{"x", {0, 1, 2, 3}, 1, 0}});
+  test::tabulate(model, [](double x, double, double, double) { return 1 + x; });
+  const PreciseFit precise = secondOpinionOn(model).precise;
+  Fit listed = fit(model).fit;
+  ASSERT_EQ(listed.SumRes2, 0.0);
+  EXPECT_FALSE(listedDigits(listed, precise).residualSum);
+  EXPECT_FALSE(listedDigits(listed, precise).standardError);
+  listed.SumRes2 = 1e-9;
+  EXPECT_EQ(*listedDigits(listed, precise).residualSum, 0.0);
+}
+
 TEST(ListedDigits, TwoPointsHaveNoStandardError) {
   Dimension model = test::problem({{"x", {0, 1}, 1, 0}});
   test::tabulate(model, [](double x, double, double, double) { return 1 + x; });
