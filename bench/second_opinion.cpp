@@ -1,14 +1,13 @@
 // Measures the second opinion on one thread and the whole `fit` in turn, both by their time on processors, and prints
 // ratios: medians over pairs.
 //   bench-second-opinion FOLDER-OF-PROGRAMS FOLDER-OF-PROBLEMS
-#include <sys/resource.h>
-
 #include <cmath>
 #include <cstdio>
 
 #include "analysis/degree_map.h"
 #include "analysis/second_opinion.h"
 #include "formats/open_problem.h"
+#include "held_memory.h"
 #include "measure.h"
 
 namespace {
@@ -25,18 +24,12 @@ AnalysisOptions oneThread(InstructionSet set = widestInstructionSet()) {
   return options;
 }
 
-long peakKilobytes() {
-  rusage usage{};
-  getrusage(RUSAGE_SELF, &usage);
-  return usage.ru_maxrss;
-}
-
 void compareWithFit(const std::string& name, const Problem& problem, const ProblemSize& size,
                     const Programs& programs) {
   std::vector<double> ratios, plainRatios;
-  const long before = peakKilobytes();
+  startHolding();
   secondOpinionOn(problem, Reading::AsTyped, {}, oneThread());
-  const long memory = peakKilobytes() - before;
+  const double megabytes = mostHeldMegabytes();
   for (int pair = 0; pair < kPairs; ++pair) {
     const double fitTime =
         programs.cost("tavimor-cli", "fit --no-check " + programs.problems + "/" + size.name).processorSeconds;
@@ -47,7 +40,7 @@ void compareWithFit(const std::string& name, const Problem& problem, const Probl
     plainRatios.push_back(baseline / ours);
   }
   std::printf("%-18s second opinion / whole fit %5.2f   baseline / widest set %4.1f   memory %.1f MB\n", name.c_str(),
-              median(ratios), median(plainRatios), static_cast<double>(memory) / 1024);
+              median(ratios), median(plainRatios), megabytes);
 }
 
 // Typed numbers that lie on no grid.
