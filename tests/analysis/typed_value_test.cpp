@@ -39,7 +39,7 @@ TEST_P(TypedNumber, StandsForItsDecimal) {
   const double value = Val(GetParam().text);
   const mpq_class wanted = exactValue(value, Reading::AsTyped);
   const mpq_class error = (exactly(typedValue(value)) - wanted) / wanted;
-  EXPECT_LE(std::fabs(error.get_d()), kTypedError);
+  EXPECT_LE(std::fabs(error.get_d()), kTypedRounding);
   EXPECT_EQ(typedValue(value).high, value);
 }
 
@@ -59,7 +59,7 @@ TEST(TypedValue, OfRandomDecimalsIsRight) {
     const mpq_class wanted = exactValue(value, Reading::AsTyped);
     const mpq_class error = (exactly(typedValue(value)) - wanted) / wanted;
     const bool isNear = std::fabs(value) >= 1e-8 && std::fabs(value) < 1e37;
-    const double most = isNear ? 2.001 * kUnitRoundoff * kUnitRoundoff : kTypedError;
+    const double most = isNear ? 2.001 * kUnitRoundoff * kUnitRoundoff : kTypedRounding;
     ASSERT_LE(std::fabs(error.get_d()), most) << text;
   }
 }
