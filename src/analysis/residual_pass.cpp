@@ -56,46 +56,99 @@ int lastExpanded(const ProblemData& data) {
   return last;
 }
 
+// The estimates along all axes but one, which is expanded line by line.
+struct Expansion {
+  int last = 0;
+  PairTable table;
+  PairMatrix ofLast;  // a row per term of the last axis, a column per value
+  PerVariable<std::vector<Pair>> leverage;
+
+  std::size_t terms() const { return ofLast.rows; }
+  std::size_t count() const { return ofLast.columns; }
+  std::size_t lines() const { return table.size() / terms(); }
+};
+
+Expansion expandedButOne(const ProblemData& data, const Decomposition& decomposition, const AnalysisOptions& options) {
+  Expansion expansion{lastExpanded(data), decomposition.z, {}, {}};
+  for (int k = 0; k < kMaxVariables; ++k) {
+    const PairMatrix orthonormal = orthonormalValues(decomposition.axis[k]);
+    expansion.leverage[k] = axisLeverages(orthonormal);
+    if (k == expansion.last)
+      expansion.ofLast = transposed(orthonormal);
+    else if (data.axis[k].count > 1)
+      expansion.table = contracted(expansion.table, k, transposed(orthonormal), options);
+  }
+  return expansion;
+}
+
+// One line along the last axis: the estimates and the values of its points.
+class Line {
+ public:
+  Line(const ProblemData& data, const Expansion& expansion, const PairSums& sums)
+      : data_(data),
+        expansion_(expansion),
+        sums_(sums),
+        function_(functionValues(*data.function, data.reading, sums)),
+        stride_(expansion.table.stride(expansion.last)) {}
+
+  void visitPoints(std::size_t line, const VisitResidual& visit) {
+    estimate(line);
+    read(line);
+    PerVariable<Long> at{};
+    const Pair ofOthers = findPlace(line, at);
+    for (std::size_t i = 0; i < expansion_.count(); ++i) {
+      at[expansion_.last] = static_cast<Long>(i);
+      const Pair estimate(estimates_.high[i * kChains], estimates_.low[i * kChains]);
+      visit(Pair(values_.high[i], values_.low[i]) - estimate, ofOthers * expansion_.leverage[expansion_.last][i], at);
+    }
+  }
+
+ private:
+  void estimate(std::size_t line) {
+    const std::size_t first = line / stride_ * expansion_.terms() * stride_ + line % stride_;
+    for (std::size_t j = 0; j < expansion_.terms(); ++j) {
+      const Pair value = expansion_.table.at(first + j * stride_);
+      coefficients_.high[j * kChains] = value.high;
+      coefficients_.low[j * kChains] = value.low;
+    }
+    contractAll(sums_, Pairs(coefficients_), expansion_.terms(), kChains, expansion_.ofLast, estimates_);
+  }
+
+  void read(std::size_t line) {
+    const std::size_t first = line / stride_ * expansion_.count() * stride_ + line % stride_;
+    for (std::size_t i = 0; i < expansion_.count(); ++i) values_.high[i] = function_.values[first + i * stride_];
+    finishBlock(function_, sums_, values_, expansion_.count());
+  }
+
+  // The indices of the line, and the product of the leverages there.
+  Pair findPlace(std::size_t line, PerVariable<Long>& at) const {
+    Pair product = 1.0;
+    for (int k = 0; k < kMaxVariables; ++k) {
+      if (k == expansion_.last) continue;
+      const std::size_t index = line % data_.axis[k].count;
+      at[k] = static_cast<Long>(index);
+      product = product * expansion_.leverage[k][index];
+      line /= data_.axis[k].count;
+    }
+    return product;
+  }
+
+  const ProblemData& data_;
+  const Expansion& expansion_;
+  const PairSums& sums_;
+  FunctionValues function_;
+  std::size_t stride_;
+  PairList coefficients_{expansion_.terms() * kChains}, estimates_{expansion_.count() * kChains},
+      values_{expansion_.count()};
+};
+
 void visitTable(const ProblemData& data, const Decomposition& decomposition, const AnalysisOptions& options,
                 const VisitResidual& visit) {
-  const PairSums& sums = pairSums(options.instructionSet);
-  const FunctionValues function = functionValues(*data.function, data.reading, sums);
-  const int last = lastExpanded(data);
-  PairTable table = decomposition.z;
-  PerVariable<PairMatrix> orthonormal;
-  PerVariable<std::vector<Pair>> leverage;
-  for (int k = 0; k < kMaxVariables; ++k) {
-    orthonormal[k] = orthonormalValues(decomposition.axis[k]);
-    leverage[k] = axisLeverages(orthonormal[k]);
-    if (k != last && data.axis[k].count > 1) table = contracted(table, k, transposed(orthonormal[k]), options);
-  }
-  const std::size_t inner = table.stride(last), terms = data.axis[last].terms, count = data.axis[last].count;
-  const PairMatrix expansion = transposed(orthonormal[last]);
-  PairList line(terms * kChains), estimates(count * kChains), values(count);
-  for (std::size_t n = 0; n < table.size() / terms; ++n) {
+  const Expansion expansion = expandedButOne(data, decomposition, options);
+  Line line(data, expansion, pairSums(options.instructionSet));
+  for (std::size_t n = 0; n < expansion.lines(); ++n) {
     goOn(options);
-    const std::size_t outer = n / inner;
-    PerVariable<Long> at{};
-    Pair ofOthers = 1.0;
-    for (std::size_t k = 0, rest = n; k < kMaxVariables; ++k) {
-      if (static_cast<int>(k) == last) continue;
-      at[k] = static_cast<Long>(rest % data.axis[k].count);
-      rest /= data.axis[k].count;
-      ofOthers = ofOthers * leverage[k][at[k]];
-    }
-    for (std::size_t j = 0; j < terms; ++j) {
-      const Pair value = table.at((outer * terms + j) * inner + n % inner);
-      line.high[j * kChains] = value.high;
-      line.low[j * kChains] = value.low;
-    }
-    contractAll(sums, Pairs(line), terms, kChains, expansion, estimates);
-    for (std::size_t i = 0; i < count; ++i) values.high[i] = function.values[(outer * count + i) * inner + n % inner];
-    finishBlock(function, sums, values, count);
-    for (std::size_t i = 0; i < count; ++i) {
-      at[last] = static_cast<Long>(i);
-      const Pair estimate(estimates.high[i * kChains], estimates.low[i * kChains]);
-      visit(Pair(values.high[i], values.low[i]) - estimate, ofOthers * leverage[last][i], at);
-    }
+    line.visitPoints(n, visit);
   }
 }
 
