@@ -13,8 +13,8 @@ enum class Reading {
 /// The number that a double stands for. Read as typed, a double which its own decimal of 15 significant digits gives
 /// back stands for that decimal: 0.1 is a tenth, and not 0.1000000000000000055. Every other double, and one whose
 /// magnitude is not between 1E-250 and 1E250, stands for itself.
-/// The relative error of the pair is at most kTypedRounding: docs/numerics.md counts the roundings. From 1E-8 to 1E37 it
-/// is 2 u^2, that of the low part alone.
+/// The relative error of the pair is at most kTypedRounding: docs/numerics.md counts the roundings. From 1E-8 to 1E37
+/// it is 2 u^2, that of the low part alone.
 Pair typedValue(double value);
 Pair valueRead(double value, Reading reading);
 
