@@ -13,7 +13,7 @@
 namespace tavimor {
 
 /// Where listed results come from.
-enum class ListedFrom { Nowhere, Files, FilesOfOtherData, FitMadeNow };
+enum class ListedFrom { Nowhere, Files, FilesOfOtherData, FitMadeNow, PreciseSolution };
 
 /// A problem whose fields have been captured, with what is listed for it.
 struct ListedProblem {

@@ -19,8 +19,23 @@ constexpr StatisticText kTexts[] = {
     {"largest_residual", "largest residual", "given value - precise estimate, where it is farthest from 0"},
 };
 
+constexpr ListedFigureText kListedTexts[] = {
+    {"CORRELATION COEFFICIENT", "sqrt(sum of (estimate - mean)^2 / TSS)", "r_squared",
+     "R^2 is its square, the share of the variation that the fit explains."},
+    {"STANDARD ERROR OF ESTIMATE (UNBIASED)", "sqrt(RSS / (N - 2))", "s",
+     "The listed one divides by N - 2, as for a straight line, whatever the degrees; P coefficients leave N - P "
+     "degrees "
+     "of freedom, and only with those is the deviation unbiased."},
+    {"SUM (RESIDUALS)^2", "sum of the squared residuals", "rss", ""},
+    {"AVERAGE OF FUNCTION(GIVEN)", "sum of the given values / N", "mean", ""},
+    {"AVERAGE OF FUNCTION(ESTIMATED)", "sum of the fitted values / N", "mean",
+     "Equal in exact arithmetic: a fit with a constant term has the mean of the data."},
+};
+
 }  // namespace
 
 std::span<const StatisticText> statisticTexts() { return kTexts; }
+
+std::span<const ListedFigureText> listedFigureTexts() { return kListedTexts; }
 
 }  // namespace tavimor

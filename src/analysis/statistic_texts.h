@@ -15,4 +15,15 @@ struct StatisticText {
 /// solution, TSS that of the deviations from the mean.
 std::span<const StatisticText> statisticTexts();
 
+/// A figure of the listing beside that of the textbook which answers the same question.
+struct ListedFigureText {
+  const char* name;        // as it is listed
+  const char* definition;  // of the listed figure
+  const char* key;         // of the textbook's, or "mean"
+  const char* difference;  // why the two differ, by more than rounding; empty where they do not
+};
+
+/// In the order of the listing.
+std::span<const ListedFigureText> listedFigureTexts();
+
 }  // namespace tavimor

@@ -1,7 +1,4 @@
-#include <algorithm>
-#include <cstdio>
-
-#include "analysis/right_digits.h"
+#include "analysis/figure_texts.h"
 #include "analysis/statistic_texts.h"
 #include "cli/analysis.h"
 #include "cli/commands.h"
@@ -10,35 +7,12 @@
 #include "cli/progress_bar.h"
 #include "cli/text_table.h"
 #include "model/grid_indices.h"
-#include "model/value_lists.h"
 #include "report/term_text.h"
 #include "runtime/number_text.h"
 
 namespace tavimor {
 
 namespace {
-
-std::string textOf(const std::optional<double>& value) { return value ? numberText(*value) : "-"; }
-
-std::string digitsText(const std::optional<double>& digits) {
-  return digits ? std::to_string(shownDigits(*digits)) : "-";
-}
-
-// Figures beside a coefficient are looked at and not calculated with: fewer digits make the table fit a screen.
-std::string shortText(const std::optional<double>& value) {
-  if (!value) return "-";
-  char text[32];
-  std::snprintf(text, sizeof text, "%.6G", *value);
-  return text;
-}
-
-// The digits that the bound leaves, 15 at most.
-std::string preciseText(const Bounded& solution) {
-  const double digits = rightDigits(solution.rounded() + solution.bound, solution);
-  char text[32];
-  std::snprintf(text, sizeof text, "%.*G", std::max(1, shownDigits(digits)), solution.rounded());
-  return digits >= kMostDigits ? numberText(solution.rounded()) : text;
-}
 
 std::string verdictText(const Analysis& analysis) {
   const Finding& finding = analysis.opinion.precise.finding;
@@ -59,6 +33,7 @@ std::string listedText(ListedFrom from) {
     case ListedFrom::FilesOfOtherData:
       return "Listed are the results that the problem was saved with: they are NOT the fit of the data beside them.";
     case ListedFrom::FitMadeNow: return "Listed are the results of a fit made now.";
+    case ListedFrom::PreciseSolution: return "Listed is the precise solution.";
   }
   return "";
 }
@@ -86,37 +61,12 @@ void printCoefficients(const Analysis& analysis) {
   table.print(printLine);
 }
 
-std::string pointText(const Analysis& analysis) {
-  std::string text;
-  const std::vector<double> point = gridPoint(analysis.problem(), analysis.residuals.largestAt);
-  for (std::size_t k = 0; k < point.size(); ++k)
-    text += (k > 0 ? ", " : "") + analysis.problem().VarName[k] + " = " + numberText(point[k]);
-  return text;
-}
-
-std::string figure(const Analysis& analysis, const std::string& key) {
-  const FitStatistics& figures = analysis.statistics;
-  if (key == "rss") return figures.residualsAreZero ? "0 as far as can be told" : numberText(figures.rss);
-  if (key == "s") return textOf(figures.s);
-  if (key == "r_squared") return textOf(figures.rSquared);
-  if (key == "adjusted_r_squared") return textOf(figures.adjustedRSquared);
-  if (key == "f") return textOf(figures.f);
-  if (key == "f_p") return textOf(figures.fP);
-  if (key == "press") return textOf(analysis.residuals.press);
-  if (key == "predicted_r_squared") return textOf(analysis.predictedRSquared);
-  if (key == "aicc") return textOf(figures.aicc);
-  if (key == "bic") return textOf(figures.bic);
-  if (key == "rms") return textOf(figures.rms);
-  if (figures.residualsAreZero) return "0 as far as can be told";
-  return numberText(analysis.residuals.largest) + " at " + pointText(analysis);
-}
-
 void printStatistics(const Analysis& analysis) {
   printLine("");
   printLine("STATISTICS of the precise solution, N = " + std::to_string(analysis.statistics.points) +
             " points, P = " + std::to_string(analysis.statistics.terms) + " coefficients:");
   for (const StatisticText& text : statisticTexts())
-    printLine(text.name + std::string(" = ") + figure(analysis, text.key) + "   [" + text.definition + "]");
+    printLine(text.name + std::string(" = ") + figureText(analysis, text.key) + "   [" + text.definition + "]");
   if (analysis.statistics.noFreedom)
     printLine("There are as many coefficients as points: no degree of freedom is left.");
   if (!analysis.residuals.press)

@@ -1,8 +1,7 @@
-#include <algorithm>
-#include <cmath>
 #include <nlohmann/json.hpp>
 
-#include "analysis/degree_map.h"
+#include "analysis/degree_search.h"
+#include "analysis/figure_texts.h"
 #include "analysis/right_digits.h"
 #include "analysis/second_opinion.h"
 #include "cli/commands.h"
@@ -12,65 +11,22 @@
 #include "cli/progress_bar.h"
 #include "cli/text_table.h"
 #include "model/capture_specs.h"
-#include "runtime/number_text.h"
 
 namespace tavimor {
 
 namespace {
 
-constexpr std::size_t kBestWithPress = 10;
-constexpr std::size_t kMostCombinations = 20000;
-
 // As high as the values allow where nothing is said.
-void setLargestDegrees(OpenedProblem& opened, const CommandOptions& options) {
-  Problem& problem = opened.problem;
-  const std::vector<Long> given =
-      options.most.empty() ? std::vector<Long>() : wholeNumbers("--max", options.most, problem);
-  const ProblemData data = problemData(problem);
-  std::size_t combinations = 1;
-  for (Long k = 0; k <= problem.LastVar; ++k) {
-    const bool said = k < std::ssize(given);
-    const Long wished = said ? given[k] : problem.Degree[k] + 2;
-    const auto different = differentValues(data.axis[k], static_cast<std::size_t>(wished) + 1);
-    problem.Degree[k] = said ? wished : std::min(wished, static_cast<Long>(different) - 1);
-    combinations *= static_cast<std::size_t>(problem.Degree[k]) + 1;
+PerVariable<Long> degreesToSearch(const Problem& problem, const CommandOptions& options) {
+  PerVariable<Long> largest = largestDegrees(problem);
+  if (!options.most.empty()) {
+    Long k = 0;
+    for (const Long said : wholeNumbers("--max", options.most, problem)) largest[k++] = said;
   }
-  if (combinations > kMostCombinations)
+  if (const std::size_t combinations = combinationsUpTo(largest); combinations > kMostCombinations)
     throw UsageError("--max: " + std::to_string(combinations) + " combinations of degrees are more than " +
                      std::to_string(kMostCombinations));
-}
-
-// PRESS needs a pass over the data: it is told for the best only, by BIC.
-std::vector<std::optional<double>> pressOfBest(const ProblemData& data, const Decomposition& decomposition,
-                                               const std::vector<DegreeCombination>& all) {
-  std::vector<std::optional<double>> press(all.size());
-  std::vector<std::size_t> order;
-  for (std::size_t n = 0; n < all.size(); ++n)
-    if (all[n].statistics.bic) order.push_back(n);
-  std::sort(order.begin(), order.end(),
-            [&](std::size_t a, std::size_t b) { return *all[a].statistics.bic < *all[b].statistics.bic; });
-  order.resize(std::min(order.size(), kBestWithPress));
-  for (const std::size_t n : order) {
-    ProblemData lower = data;
-    PerVariable<std::size_t> terms{};
-    for (int k = 0; k < kMaxVariables; ++k)
-      lower.axis[k].terms = terms[k] = static_cast<std::size_t>(all[n].degrees[k]) + 1;
-    press[n] = gridResiduals(lower, withTerms(decomposition, terms)).press;
-  }
-  return press;
-}
-
-std::string degreesText(const Problem& problem, const PerVariable<Long>& degrees) {
-  std::string text;
-  for (Long k = 0; k <= problem.LastVar; ++k) text += (k > 0 ? "," : "") + numberText(degrees[k]);
-  return text;
-}
-
-std::string shortText(const std::optional<double>& value) {
-  if (!value) return "-";
-  char text[32];
-  std::snprintf(text, sizeof text, "%.6G", *value);
-  return text;
+  return largest;
 }
 
 void printMap(const Problem& problem, const std::vector<DegreeCombination>& all,
@@ -116,22 +72,22 @@ std::string mapJson(const Problem& problem, const std::vector<DegreeCombination>
 ExitCode degreesCommand(const std::string& problem, const CommandOptions& options) {
   OpenedProblem opened = openShowingProgress(problem);
   CaptureSpecs(opened.problem, opened.fields);
-  setLargestDegrees(opened, options);
+  const PerVariable<Long> largest = degreesToSearch(opened.problem, options);
   const Reading reading = options.asStored ? Reading::AsStored : Reading::AsTyped;
-  const ProblemData data = problemData(opened.problem, reading, centresFromFields(opened.fields));
   ProgressBar bar;
   AnalysisOptions how;
   how.progress = [&](double share) { bar.show(share); };
-  const Decomposition decomposition = decompose(data, how);
-  if (decomposition.finding.verdict != Verdict::Exact) {
-    complain(problem, "no map of degrees: " + reasonText(decomposition.finding, opened.problem));
+  const DegreeSearcher searcher(problemData(opened.problem, reading, centresFromFields(opened.fields)), largest, how);
+  const DegreeSearch found = searcher.search();
+  if (found.finding.verdict != Verdict::Exact) {
+    opened.problem.Degree = largest;  // the degrees that the reason tells of
+    complain(problem, "no map of degrees: " + reasonText(found.finding, opened.problem));
     return ExitCode::NoFit;
   }
-  const std::vector<DegreeCombination> all = degreeMap(data, decomposition, centresOf(data));
   if (options.json)
-    printLine(mapJson(opened.problem, all, options));
+    printLine(mapJson(opened.problem, found.combinations, options));
   else
-    printMap(opened.problem, all, pressOfBest(data, decomposition, all), options);
+    printMap(opened.problem, found.combinations, searcher.pressOfBest(found), options);
   finishOutput();
   return ExitCode::Success;
 }
