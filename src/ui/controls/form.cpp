@@ -20,6 +20,13 @@ QVector<Form*>& forms() {
 // A dialog runs an event loop of its own within that of the program, and its event procedure waits for its end.
 bool isWithinDialog() { return QThread::currentThread()->loopLevel() > 1; }
 
+// A dialog that is modal to one window leaves the others alone, the help for instance.
+bool isBehindDialog(const QWidget& form) {
+  const QWidget* dialog = QApplication::activeModalWidget();
+  if (dialog == nullptr || dialog->windowModality() == Qt::ApplicationModal) return isWithinDialog();
+  return dialog->parentWidget() != nullptr && dialog->parentWidget()->window() == &form;
+}
+
 }  // namespace
 
 Form::Form(const QString& name) {
@@ -82,7 +89,7 @@ bool Form::isAnyEnding() {
 
 void Form::closeEvent(QCloseEvent* event) {
   // Behind a dialog only the end of the session closes a form.
-  event->setAccepted(!isWithinDialog());
+  event->setAccepted(!isBehindDialog(*this));
   if (event->isAccepted()) {
     unload();
   } else {

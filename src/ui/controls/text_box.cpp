@@ -64,6 +64,8 @@ void TextBox::focusOutEvent(QFocusEvent* event) {
   emit LostFocus();
 }
 
+bool TextBox::leave() { return !holdsFocus_ || letsGo(Qt::OtherFocusReason); }
+
 TextBox* TextBox::otherHolder() const {
   for (TextBox* box : window()->findChildren<TextBox*>())
     if (box != this && box->holdsFocus_) return box;

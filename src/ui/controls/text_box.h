@@ -35,6 +35,10 @@ class TextBox : public QLineEdit {
   void setEnterKey(EnterKey enterKey) { enterKey_ = enterKey; }
   void setPasting(Pasting pasting) { pasting_ = pasting; }
 
+  /// Ends the entry in a box that has had GotFocus and no LostFocus: Validate and LostFocus, as if it was left for
+  /// another control. False where it refuses; it then keeps the focus.
+  bool leave();
+
  signals:
   void GotFocus();
   void Change();

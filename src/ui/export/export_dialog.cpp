@@ -39,6 +39,7 @@ ExportDialog::ExportDialog(QWidget* parent, const Problem& problem, const Fit& f
   if (hasPrecise()) precise_ = listedForm(opinion_->precise);
   setObjectName(QStringLiteral("frmExport"));
   setWindowTitle(QStringLiteral("Export formula"));
+  setWindowModality(Qt::WindowModal);  // the help can be read meanwhile
   txtName->setText(QString::fromStdString(name));
   connect(cboFormat, &QComboBox::currentIndexChanged, this, &ExportDialog::write);
   connect(txtName, &TextBox::Change, this, &ExportDialog::write);

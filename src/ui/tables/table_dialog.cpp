@@ -39,6 +39,7 @@ TableDialog::TableDialog(QWidget* parent, std::string_view text)
     : QDialog(parent), TableDialogControls(static_cast<QWidget&>(*this)), text_(text) {
   setObjectName(QStringLiteral("frmTable"));
   setWindowTitle(QStringLiteral("Import table"));
+  setWindowModality(Qt::WindowModal);  // the help can be read meanwhile
   connectControls();
   look();
 }

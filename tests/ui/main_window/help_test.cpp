@@ -17,7 +17,8 @@ class Help : public MainWindowTest {
  protected:
   Help() {
     QByteArray text = "<h1>Beginning</h1>";
-    for (const char* name : {"frmTavimor", "frmVars", "frmFun", "frmEvaluations", "frmAbout"})
+    for (const char* name :
+         {"frmTavimor", "frmVars", "frmFun", "frmEvaluations", "frmAbout", "frmAnalysis", "frmExport", "frmTable"})
       text += "<h1><a name=\"" + QByteArray(name) + "\"></a>About " + name + "</h1>" + longText(name);
     writeFile("tavimor.hlp", text);
     test::store(twoVariables(), file("two"));
@@ -134,7 +135,28 @@ TEST_F(Help, F1WithAnotherKeyHeldDoesNothing) {
   EXPECT_EQ(Form::openForm<HelpViewer>(), nullptr);
 }
 
-TEST_F(Help, F1InADialogDoesNothing) {
+TEST_F(Help, F1InTheAnalysisWindowGoesToItsPage) {
+  press(Qt::Key_F9);
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&opened("frmAnalysis")));
+  QTest::keyClick(&opened("frmAnalysis"), Qt::Key_F1);
+  EXPECT_EQ(shownPage(), "frmAnalysis");
+}
+
+TEST_F(Help, F1InADialogOfItsOwnPageShowsItBesideTheDialog) {
+  open("two");
+  click("cmdCompute");
+  dialogs.expect([](QDialog& dialog) {
+    QTest::keyClick(&dialog, Qt::Key_F1);
+    EXPECT_EQ(source().fragment(), "frmExport");
+    help().close();
+    EXPECT_EQ(Form::openForm<HelpViewer>(), nullptr);
+    EXPECT_TRUE(dialog.isVisible());
+    QTest::keyClick(&dialog, Qt::Key_Escape);
+  });
+  press(Qt::Key_E, Qt::ControlModifier);
+}
+
+TEST_F(Help, F1InADialogWithoutAPageDoesNothing) {
   open("two");
   dialogs.expect([](QDialog& dialog) {
     QTest::keyClick(dialog.findChild<QLineEdit*>(), Qt::Key_F1);

@@ -13,22 +13,25 @@ bool isHelpKey(QEvent& event) {
   return event.type() == QEvent::KeyPress && static_cast<QKeyEvent&>(event).matches(QKeySequence::HelpContents);
 }
 
-const Form* formOf(const QObject* object) {
+// A window of the program has a name; the toolkit's own dialogs and message boxes have none of this kind.
+QString pageOf(const QObject* object) {
   const auto* widget = qobject_cast<const QWidget*>(object);
-  return widget == nullptr ? nullptr : qobject_cast<const Form*>(widget->window());
+  if (widget == nullptr || qobject_cast<const HelpViewer*>(widget->window()) != nullptr) return {};
+  const QString name = widget->window()->objectName();
+  return name.startsWith(QLatin1String("frm")) ? name : QString();
 }
 
 }  // namespace
 
-HelpKey::HelpKey(std::function<void(const QString& form)> help) : help_(std::move(help)) {
+HelpKey::HelpKey(std::function<void(const QString& page)> help) : help_(std::move(help)) {
   qApp->installEventFilter(this);
 }
 
 bool HelpKey::eventFilter(QObject* watched, QEvent* event) {
   if (!isHelpKey(*event)) return false;
-  const Form* form = formOf(watched);
-  if (form == nullptr || qobject_cast<const HelpViewer*>(form) != nullptr) return false;
-  help_(form->objectName());
+  const QString page = pageOf(watched);
+  if (page.isEmpty()) return false;
+  help_(page);
   return true;
 }
 
