@@ -15,6 +15,7 @@ frmTavimor::frmTavimor(Dimension& model)
     : Form(QStringLiteral("frmTavimor")), MainControls(static_cast<QWidget&>(*this)), model_(model) {
   setWindowTitle(kTitle);
   connectCommands();
+  connectAnalysis();
   connectHeading();
   connectBlock(0);
   Form_Load();
@@ -74,6 +75,7 @@ void frmTavimor::connectCommands() {
   connect(mnuRestore, &QAction::triggered, this, &frmTavimor::mnuRestore_Click);
   connect(mnuExport, &QAction::triggered, this, &frmTavimor::mnuExport_Click);
   connect(mnuCopyTable, &QAction::triggered, this, &frmTavimor::mnuCopyTable_Click);
+  connect(mnuAnalysis, &QAction::triggered, this, &frmTavimor::mnuAnalysis_Click);
   connect(mnuHelp, &QAction::triggered, this, &frmTavimor::mnuHelp_Click);
   connect(mnuAbout, &QAction::triggered, this, &frmTavimor::mnuAbout_Click);
   connect(cmdNextVar, &QPushButton::clicked, this, &frmTavimor::cmdNextVar_Click);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QTimer>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -7,6 +9,8 @@
 #include "formats/open_problem.h"
 #include "model/Dimension.h"
 #include "script/ScriptHost.h"
+#include "ui/analysis/analysis_link.h"
+#include "ui/analysis/analysis_runner.h"
 #include "ui/controls/common_dialog.h"
 #include "ui/controls/form.h"
 #include "ui/controls/help/help_key.h"
@@ -17,6 +21,7 @@
 
 namespace tavimor {
 
+class frmAnalysis;
 class frmEvaluations;
 class frmVars;
 
@@ -132,6 +137,24 @@ class frmTavimor : public Form, private MainControls {
   void enableWhatNeedsAFit();
   AllSpecFields specFields() const;
 
+  // Analysis
+  void connectAnalysis();
+  void mnuAnalysis_Click();
+  void fitFound(ListedFrom from);
+  void fitDropped();
+  void noAnalysis(const QString& why);
+  void showAnalysis(const std::shared_ptr<const Analysis>& analysis, const Advice& advice);
+  void tellVerdict();
+  void tellAnalysisWindow();
+  void showAnalysisProgress();
+  void followAdvice();
+  bool leaveField();
+  void useMiddles();
+  void useDegrees(const PerVariable<Long>& degrees, Then then);
+  bool isAnalysisOfTheModel() const;
+  void usePreciseCoefficients();
+  void openFunctionAt(const PerVariable<Long>& index);
+
   // Values and function
   void cmdEditVars_Click(Long Index);
   void cmdAddVars_Click(Long Index);
@@ -142,6 +165,7 @@ class frmTavimor : public Form, private MainControls {
   frmVars& valuesWindow();
   void giveValuesAndFixTheirNumber(Long v);
   std::optional<PerVariable<Long>> askForStartingSet();
+  void openFunctionWindow(const PerVariable<Long>& start);
 
   // Status line
   void showFileName();
@@ -161,8 +185,16 @@ class frmTavimor : public Form, private MainControls {
   QPointer<frmEvaluations> evaluations_;
   QPointer<frmVars> valuesWindow_;
   CommonDialog cdbFile;
-  HelpKey helpKey_{[this](const QString& form) { showHelp(form); }};
   std::optional<ProblemKeeper> keeper_;
+  HelpKey helpKey_{[this](const QString& page) { showHelp(page); }};
+  AnalysisLink analysisLink_;
+  QPointer<frmAnalysis> analysisWindow_;
+  std::shared_ptr<const Analysis> analysis_;  // of the fit that is listed; null until it is there
+  Advice advice_;
+  bool isPreciseListed_ = false;  // the precise coefficients stand in the place of those of the fit
+  QString noAnalysisBecause_;
+  AnalysisRunner analysisRunner_;
+  QTimer analysisProgress_;
   std::string refusedFile_;  // a file of the user's that could not be opened or replaced: never replaced unasked
 };
 

@@ -48,10 +48,15 @@ void MainControls::makeControls() {
 
 void MainControls::makeStatusLine() {
   stbStatus = new StatusLine;
+  cmdVerdict = makeButton(QStringLiteral("cmdVerdict"), "");
+  cmdVerdict->setFlat(true);
+  cmdVerdict->setFocusPolicy(Qt::NoFocus);  // as a menu: no field is left for it
+  cmdVerdict->hide();
   lblFileName = makeControl<ElidedLabel>(QStringLiteral("lblFileName"), "");
   lblBlock = makeControl<QLabel>(QStringLiteral("lblBlock"), "");
   wrkDisplay = new WorkDisplay;
   stbStatus->addPermanentWidget(wrkDisplay);
+  stbStatus->addPermanentWidget(cmdVerdict);
   stbStatus->addPermanentWidget(lblFileName);
   stbStatus->addPermanentWidget(lblBlock);
 }

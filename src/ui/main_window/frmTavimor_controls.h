@@ -32,6 +32,7 @@ struct MainControls {
   QAction* mnuPaste;
   QAction* mnuExport;
   QAction* mnuRestore;
+  QAction* mnuAnalysis;
   QAction* mnuHelp;
   QAction* mnuAbout;
 
@@ -59,6 +60,7 @@ struct MainControls {
 
   StatusLine* stbStatus;
   WorkDisplay* wrkDisplay;   // in the status line
+  QPushButton* cmdVerdict;   // what the fit is worth, once that is known; opens the analysis window
   ElidedLabel* lblFileName;  // both on the right of the status line
   QLabel* lblBlock;
 

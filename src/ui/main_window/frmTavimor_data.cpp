@@ -40,15 +40,17 @@ void frmTavimor::giveValuesAndFixTheirNumber(Long v) {
 }
 
 void frmTavimor::cmdEditFun_Click() {
-  const std::optional<PerVariable<Long>> start = askForStartingSet();
-  if (!start) return;
+  if (const auto start = askForStartingSet()) openFunctionWindow(*start);
+}
+
+void frmTavimor::openFunctionWindow(const PerVariable<Long>& start) {
   RegenerateSpacedValues(model_, spacedMarks(specFields()));
   CaptureSpecs();
   for (Long v = 0; v <= model_.LastVar; ++v) {
     blocks.at(v).txtPoints->setEnabled(false);
     giveDefaultValues(model_, v);
   }
-  model_.StartIdx = *start;
+  model_.StartIdx = start;
   disable();
   auto* window = new frmFun(model_);
   connect(window, &frmFun::Finished, this, &Form::enable);

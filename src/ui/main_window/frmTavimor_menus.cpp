@@ -53,6 +53,7 @@ void MainControls::makeToolsMenu() {
     QObject::connect(mnuOpen, &QAction::enabledChanged, item, &QAction::setEnabled);
   mnuExport = addItem(*menu, "mnuExport", "&Export formula...", Qt::CTRL | Qt::Key_E);
   mnuRestore = addItem(*menu, "mnuRestore", "&Restore...", Qt::CTRL | Qt::Key_R);
+  mnuAnalysis = addItem(*menu, "mnuAnalysis", "&Analysis", Qt::Key_F9);
 }
 
 }  // namespace tavimor

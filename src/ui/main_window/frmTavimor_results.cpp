@@ -9,6 +9,12 @@
 
 namespace tavimor {
 
+namespace {
+
+constexpr char kPreciseListed[] = "PRECISE COEFFICIENTS in the place of the listed ones, until Compute:";
+
+}  // namespace
+
 void frmTavimor::cmdCompute_Click() {
   const WaitPointer hourglass;
   ClearResults();
@@ -19,12 +25,14 @@ void frmTavimor::cmdCompute_Click() {
   QApplication::beep();
   ShowResults();
   enableWhatNeedsAFit();
+  fitFound(ListedFrom::FitMadeNow);
 }
 
 void frmTavimor::ClearResults() {
   if (model_.LoadingFile) return;
   lstCoeff->clear();
-  model_.FitDone = false;
+  model_.FitDone = isPreciseListed_ = false;
+  fitDropped();
 }
 
 void frmTavimor::CaptureSpecs() {
@@ -48,6 +56,7 @@ void frmTavimor::fitTablesToSpecs() {
 
 void frmTavimor::ShowResults() {
   TextLines lines;
+  if (isPreciseListed_) lines.add(kPreciseListed);
   tavimor::ShowResults(model_, model_, [&lines](const std::string& line) { lines.add(line); });
   lstCoeff->addItems(lines);
   setTermIndices(model_, model_.Degree);  // as the walk over the terms leaves them
@@ -57,6 +66,7 @@ void frmTavimor::ShowFitIfDone() {
   if (!model_.FitDone) return;
   ShowResults();
   enableWhatNeedsAFit();
+  fitFound(ListedFrom::Files);
 }
 
 void frmTavimor::enableWhatNeedsAFit() {

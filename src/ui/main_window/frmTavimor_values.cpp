@@ -1,5 +1,6 @@
 #include "model/value_lists.h"
 #include "runtime/number_text.h"
+#include "ui/analysis/frmAnalysis.h"
 #include "ui/data_windows/frmVars.h"
 #include "ui/main_window/frmTavimor.h"
 
@@ -14,7 +15,11 @@ QString text(Number number) {
 
 }  // namespace
 
-frmTavimor::~frmTavimor() { delete valuesWindow_; }
+// Its pages refer to a part of this window.
+frmTavimor::~frmTavimor() {
+  delete analysisWindow_;
+  delete valuesWindow_;
+}
 
 frmVars& frmTavimor::valuesWindow() {
   if (valuesWindow_ == nullptr || !valuesWindow_->isOpen()) {

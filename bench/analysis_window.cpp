@@ -1,0 +1,77 @@
+// Measures how long after a click of Compute the analysis window shows the verdict and its page of coefficients, and
+// how long the main window did not answer meanwhile: medians, in milliseconds.
+//   bench-analysis-window FOLDER-OF-PROBLEMS
+#include <QElapsedTimer>
+#include <QLabel>
+#include <QPushButton>
+#include <QTest>
+#include <cstdio>
+
+#include "measure.h"
+#include "problem_sizes.h"
+#include "ui/analysis/frmAnalysis.h"
+#include "ui/controls/application.h"
+#include "ui/main_window/frmTavimor.h"
+
+namespace {
+
+using namespace tavimor;
+using namespace tavimor::bench;
+
+constexpr int kRuns = 9;
+
+struct Answer {
+  double compute, verdict, longestPause;
+};
+
+double milliseconds(const QElapsedTimer& timer) { return static_cast<double>(timer.nsecsElapsed()) / 1e6; }
+
+// From the end of the listing on.
+Answer answerTo(QPushButton& cmdCompute, const QLabel& lblVerdict) {
+  Answer answer{};
+  QElapsedTimer timer, pause;
+  timer.start();
+  cmdCompute.click();
+  answer.compute = milliseconds(timer);
+  timer.start();
+  while (lblVerdict.text().startsWith(QLatin1String("Looking"))) {
+    pause.start();
+    QCoreApplication::processEvents(QEventLoop::AllEvents);
+    answer.longestPause = std::max(answer.longestPause, milliseconds(pause));
+  }
+  QCoreApplication::processEvents(QEventLoop::AllEvents);
+  answer.verdict = milliseconds(timer);
+  return answer;
+}
+
+void measure(const std::string& name, const std::string& path) {
+  Dimension model;
+  auto* window = new frmTavimor(model);
+  window->show();
+  window->openFile(path);
+  QTest::keyClick(window, Qt::Key_F9);
+  auto* analysis = Form::openForm<frmAnalysis>();
+  std::vector<double> compute, verdict, pause;
+  for (int run = 0; run < kRuns; ++run) {
+    const Answer answer =
+        answerTo(*window->findChild<QPushButton*>("cmdCompute"), *analysis->findChild<QLabel*>("lblVerdict"));
+    compute.push_back(answer.compute);
+    verdict.push_back(answer.verdict);
+    pause.push_back(answer.longestPause);
+  }
+  std::printf("%-4s Compute %7.1f   verdict and table %6.1f after it   longest pause %5.1f\n", name.c_str(),
+              median(compute), median(verdict), median(pause));
+  window->unload();
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  const Application application(argc, argv);
+  QApplication::setQuitOnLastWindowClosed(false);
+  if (argc != 2) return 2;
+  for (const ProblemSize& size : kProblemSizes) measure(size.name, std::string(argv[1]) + "/" + size.name);
+  return 0;
+}
