@@ -31,6 +31,12 @@ PerVariable<Long> previousPoint(const Problem& problem, PerVariable<Long> point)
   return point;
 }
 
+std::int64_t numberOfPoint(const Problem& problem, const PerVariable<Long>& point) {
+  std::int64_t before = 0;
+  for (Long k = 0; k <= problem.LastVar; ++k) before = before * (std::int64_t{problem.LastPoint[k]} + 1) + point[k];
+  return before + 1;
+}
+
 std::optional<PerVariable<Long>> gridPointFromText(const Problem& problem, std::string_view text) {
   PerVariable<Long> point{};
   std::size_t begin = 0;

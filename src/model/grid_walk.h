@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string_view>
 
@@ -16,6 +17,9 @@ Long previousOnRing(Long index, Long last);
 /// variable fastest, from the last point on to the first one and back.
 PerVariable<Long> nextPoint(const Problem& problem, PerVariable<Long> point);
 PerVariable<Long> previousPoint(const Problem& problem, PerVariable<Long> point);
+
+/// The place of a grid point in that order, from 1 to the number of points.
+std::int64_t numberOfPoint(const Problem& problem, const PerVariable<Long>& point);
 
 /// The grid point that a text such as "2,0,1" names, one index per declared variable, each rounded to a whole number
 /// with halves to even; nothing where a number is greater than its variable's last index. Negative ones pass.

@@ -33,6 +33,15 @@ TEST(GridWalk, VisitsTheLastVariableFastestAndReturnsToTheFirstPoint) {
               ElementsAre(Point{0, 0}, Point{0, 1}, Point{1, 0}, Point{1, 1}, Point{2, 0}, Point{2, 1}, Point{0, 0}));
 }
 
+TEST(GridWalk, NumbersThePointsInItsOrder) {
+  const Problem problem = problemWithCounts({2, 3, 1, 4});
+  PerVariable<Long> point{};
+  for (int number = 1; number <= 2 * 3 * 1 * 4; ++number) {
+    EXPECT_EQ(numberOfPoint(problem, point), number);
+    point = nextPoint(problem, point);
+  }
+}
+
 TEST(GridWalk, GoesFromTheFirstPointBackToTheLast) {
   const Problem problem = problemWithCounts({3, 2});
   PerVariable<Long> point{};
