@@ -20,6 +20,21 @@ namespace {
 // The focus is on its way back to a box that has refused to lose it: who loses it now is not asked.
 bool isGivenBack = false;
 
+// The keys of Undo and Redo are the box's own only while it has something to undo or redo that was typed since it got
+// the focus; otherwise they are the window's. Some desktops know Ctrl+E as a way to the end of a field, as the key End
+// is: a menu that has that shortcut comes first.
+bool isLeftToWindow(const QLineEdit& box, const QKeyEvent& key) {
+  return (key.matches(QKeySequence::Undo) && !box.isUndoAvailable()) ||
+         (key.matches(QKeySequence::Redo) && !box.isRedoAvailable()) || key.keyCombination() == (Qt::CTRL | Qt::Key_E);
+}
+
+// The same text set anew, which is no change: what was typed is over, and no longer the box's to undo.
+void endTyping(QLineEdit& box) {
+  const int cursor = box.cursorPosition();
+  box.setText(box.text());
+  box.setCursorPosition(cursor);
+}
+
 bool isEnter(int keyCode) { return keyCode == Qt::Key_Return || keyCode == Qt::Key_Enter; }
 
 }  // namespace
@@ -29,11 +44,8 @@ TextBox::TextBox(const QString& name, QWidget* parent) : QLineEdit(parent) {
   connect(this, &QLineEdit::textChanged, this, &TextBox::Change);
 }
 
-// Some desktops know Ctrl+E as a way to the end of a field, as the key End is: a menu that has that shortcut comes
-// first.
 bool TextBox::event(QEvent* event) {
-  if (event->type() == QEvent::ShortcutOverride &&
-      static_cast<QKeyEvent*>(event)->keyCombination() == (Qt::CTRL | Qt::Key_E)) {
+  if (event->type() == QEvent::ShortcutOverride && isLeftToWindow(*this, static_cast<const QKeyEvent&>(*event))) {
     event->ignore();
     return true;
   }
@@ -61,6 +73,7 @@ void TextBox::focusOutEvent(QFocusEvent* event) {
   }
   holdsFocus_ = false;
   QLineEdit::focusOutEvent(event);
+  endTyping(*this);
   emit LostFocus();
 }
 
@@ -79,6 +92,7 @@ bool TextBox::letsGo(Qt::FocusReason reason) {
     return false;
   }
   holdsFocus_ = false;
+  endTyping(*this);
   emit LostFocus();
   return true;
 }

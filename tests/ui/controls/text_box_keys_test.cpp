@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <QAction>
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QInputMethodEvent>
@@ -116,6 +117,44 @@ TEST_F(TextBoxKeys, EnterThatMovesOnValidates) {
   QObject::connect(&box, &TextBox::Validate, [](bool& cancel) { cancel = true; });
   QTest::keyClick(&box, Qt::Key_Enter, Qt::KeypadModifier);
   EXPECT_TRUE(box.hasFocus());
+}
+
+class TextBoxUndo : public TextBoxKeys {
+ protected:
+  TextBoxUndo() {
+    auto* undo = new QAction(&window);
+    undo->setShortcut(QKeySequence::Undo);
+    QObject::connect(undo, &QAction::triggered, [this] { ++undone; });
+    window.addAction(undo);
+  }
+
+  int undone = 0;
+};
+
+TEST_F(TextBoxUndo, IsTheBoxsOwnWhileItHasSomethingToUndo) {
+  QTest::keyClicks(&box, QStringLiteral("12"));
+  QTest::keyClick(&box, Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(box.text(), QString());
+  EXPECT_EQ(undone, 0);
+  QTest::keyClick(&box, Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(undone, 1);
+}
+
+TEST_F(TextBoxUndo, IsTheWindowsOnceTheBoxWasLeft) {
+  QTest::keyClicks(&box, QStringLiteral("12"));
+  next.setFocus();
+  box.setFocus();
+  QTest::keyClick(&box, Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(box.text(), QStringLiteral("12"));
+  EXPECT_EQ(undone, 1);
+}
+
+TEST_F(TextBoxUndo, LeavingTheBoxChangesNoText) {
+  EventLog log;
+  QTest::keyClicks(&box, QStringLiteral("12"));
+  log.watch(box);
+  next.setFocus();
+  EXPECT_EQ(log.take(), "box.Validate box.LostFocus");
 }
 
 }  // namespace
