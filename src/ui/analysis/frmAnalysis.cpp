@@ -7,7 +7,7 @@
 
 #include "ui/analysis/analysis_page.h"
 #include "ui/controls/make_control.h"
-#include "ui/controls/user_settings.h"
+#include "ui/controls/remembered.h"
 
 namespace tavimor {
 
@@ -128,9 +128,8 @@ void frmAnalysis::setGrey(bool isGrey) {
 }
 
 void frmAnalysis::restoreChoices() {
-  QSettings settings = userSettings();
+  Remembered settings;
   settings.beginGroup(objectName());
-  restoreGeometry(settings.value(QStringLiteral("geometry")).toByteArray());
   const QString chosen = settings.value(QStringLiteral("page")).toString();
   for (AnalysisPage* page : pages_) {
     if (page->objectName() == chosen) tabPages->setCurrentWidget(page);
@@ -141,9 +140,8 @@ void frmAnalysis::restoreChoices() {
 }
 
 void frmAnalysis::saveChoices() const {
-  QSettings settings = userSettings();
+  Remembered settings;
   settings.beginGroup(objectName());
-  settings.setValue(QStringLiteral("geometry"), saveGeometry());
   settings.setValue(QStringLiteral("page"), currentPage().objectName());
   for (const AnalysisPage* page : pages_) {
     settings.beginGroup(page->objectName());

@@ -12,6 +12,7 @@
 #include "ui/controls/help/help_viewer.h"
 #include "ui/controls/message_box.h"
 #include "ui/controls/printing/print_dialog.h"
+#include "ui/controls/recent_files.h"
 
 namespace tavimor {
 
@@ -25,8 +26,17 @@ QString existingFiles(const std::string& path) {
   return existing.join(QLatin1Char('\n'));
 }
 
+void offerRecentFolders(QFileDialog& dialog) {
+  const QStringList folders = recentFolders();
+  QList<QUrl> places = dialog.sidebarUrls();
+  for (const QString& folder : folders) places << QUrl::fromLocalFile(folder);
+  dialog.setSidebarUrls(places);
+  dialog.setHistory(folders);
+}
+
 DialogEnd show(QFileDialog& dialog, std::string& fileName) {
   dialog.setOption(QFileDialog::DontConfirmOverwrite);
+  offerRecentFolders(dialog);
   if (!fileName.empty()) {
     const QFileInfo previous(QString::fromStdString(fileName));
     dialog.setDirectory(previous.absolutePath());

@@ -1,5 +1,7 @@
 #include "ui/data_windows/frmFun.h"
 
+#include <algorithm>
+
 #include "model/grid_walk.h"
 #include "model/value_lists.h"
 #include "runtime/number_text.h"
@@ -29,6 +31,10 @@ Long wholeNumber(const TextBox& box) { return ValLong(box.text().toStdString());
 template <class Number>
 QString text(Number number) {
   return QString::fromStdString(numberText(number));
+}
+
+bool isLastPoint(const Problem& problem, const PerVariable<Long>& point) {
+  return numberOfPoint(problem, point) == static_cast<std::int64_t>(problem.F.size());
 }
 
 // Whether the user may be typing: "" or "-" on the way to "-1", "1." to "1.5".
@@ -75,6 +81,7 @@ void frmFun::Form_Load() {
     txtVarIndex[k]->setText(text(model_.StartIdx[k]));
     txtFunIndex[k]->setText(text(model_.StartIdx[k]));
   }
+  tellPoint();
   txtFun->setFocus();
 }
 
@@ -84,7 +91,9 @@ void frmFun::readIndices() {
 
 void frmFun::storeFunctionValue() {
   readIndices();
-  model_.F(model_.StartIdx) = value(*txtFun);
+  const double newValue = value(*txtFun);
+  emit FunctionValueChanging(model_.StartIdx, newValue);
+  model_.F(model_.StartIdx) = newValue;
 }
 
 void frmFun::showFunctionValue() {
@@ -106,18 +115,35 @@ void frmFun::showPoint() {
     txtVar[k]->setText(text(valueOf(model_, k, model_.StartIdx[k])));
     txtVarIndex[k]->setText(text(model_.StartIdx[k]));
   }
+  tellPoint();
+}
+
+void frmFun::showAnew(const PerVariable<Long>& point) {
+  for (Long k = 0; k <= model_.LastVar; ++k) model_.StartIdx[k] = std::clamp<Long>(point[k], 0, model_.LastPoint[k]);
+  showPoint();
+}
+
+void frmFun::tellPoint(const QString& more) {
+  const auto number = numberOfPoint(model_, model_.StartIdx);
+  stbStatus->clearHint();
+  stbStatus->showResult(QStringLiteral("point %1 of %2").arg(number).arg(model_.F.size()) + more);
+  emit PointEntered();
 }
 
 void frmFun::cmdIncFunIndex_Click() {
   storeFunctionValue();
+  const bool wasLast = isLastPoint(model_, model_.StartIdx);
   model_.StartIdx = nextPoint(model_, model_.StartIdx);
   showPoint();
+  if (wasLast) tellPoint(QStringLiteral("; last point reached"));
 }
 
 void frmFun::cmdDecFunIndex_Click() {
   storeFunctionValue();
+  const bool wasFirst = numberOfPoint(model_, model_.StartIdx) == 1;
   model_.StartIdx = previousPoint(model_, model_.StartIdx);
   showPoint();
+  if (wasFirst) tellPoint(QStringLiteral("; first point reached"));
 }
 
 void frmFun::txtFun_KeyPress(QChar& character) {
@@ -162,6 +188,7 @@ void frmFun::takeIndex(Long k, const TextBox& typed) {
   showVariableValue(k);
   readIndices();
   showFunctionValue();
+  tellPoint();
 }
 
 void frmFun::showIndex(TextBox& box, Long index) {
@@ -172,7 +199,9 @@ void frmFun::showIndex(TextBox& box, Long index) {
 void frmFun::txtVar_Change(Long k) {
   if (handlersRest()) return;
   model_.VarX = value(*txtVar[k]);
-  valueOf(model_, k, wholeNumber(*txtVarIndex[k])) = model_.VarX;
+  const Long i = wholeNumber(*txtVarIndex[k]);
+  emit ValueChanging(k, i, model_.VarX);
+  valueOf(model_, k, i) = model_.VarX;
 }
 
 void frmFun::txtFunIndex_Validate(Long k, bool& cancel) { cancel = !mayLeave(k, *txtFunIndex[k]); }
@@ -181,7 +210,10 @@ void frmFun::txtVarIndex_Validate(Long k, bool& cancel) { cancel = !mayLeave(k, 
 
 bool frmFun::mayLeave(Long k, TextBox& box) {
   const bool isIndex = isIndexOf(k, box);
-  if (isIndex) showIndex(box, wholeNumber(box));
+  if (isIndex)
+    showIndex(box, wholeNumber(box));
+  else
+    tell(QStringLiteral("An index from 0 to %1 is needed here").arg(model_.LastPoint[k]));
   return isIndex;
 }
 

@@ -14,7 +14,20 @@ class frmFun : public Form, private FunControls {
  public:
   explicit frmFun(Dimension& model);
 
+  /// Goes to a point, whose values may be others than before.
+  void showAnew(const PerVariable<Long>& point);
+
+  /// Shows a hint in the status line.
+  void tell(const QString& hint) { stbStatus->showHint(hint); }
+
  signals:
+  /// The function's value at a point, or value i of variable v, is about to be changed to this one.
+  void FunctionValueChanging(const PerVariable<Long>& point, double newValue);
+  void ValueChanging(Long v, Long i, double newValue);
+
+  /// Another point is shown.
+  void PointEntered();
+
   /// The user has done with the window.
   void Finished();
 
@@ -27,6 +40,7 @@ class frmFun : public Form, private FunControls {
 
   void Form_Load();
   void showPoint();
+  void tellPoint(const QString& more = {});
   void showFunctionValue();
   void showVariableValue(Long k);
   void readIndices();

@@ -53,6 +53,7 @@ FunControls::FunControls(QWidget& window) {
   Frame1 = makeControl<QGroupBox>(QStringLiteral("Frame1"), "");
   for (int k = 0; k < kMaxVariables; ++k) makeRow(k);
   cmdExit = makeButton(QStringLiteral("cmdExit"), "Done");
+  stbStatus = new StatusLine;
   layOut(window);
   orderTabs();
 }

@@ -6,6 +6,7 @@
 #include <QPushButton>
 
 #include "model/table4.h"
+#include "ui/controls/status_line.h"
 #include "ui/controls/text_box.h"
 
 namespace tavimor {
@@ -39,6 +40,7 @@ struct FunControls {
   PerVariable<QPushButton*> cmdDecIndex;
 
   QPushButton* cmdExit;
+  StatusLine* stbStatus;
 
  private:
   void makeFunctionCall();

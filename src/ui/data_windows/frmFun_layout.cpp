@@ -39,6 +39,7 @@ void FunControls::layOut(QWidget& window) {
   exit->addStretch(1);
   exit->addWidget(cmdExit);
   whole->addLayout(exit);
+  whole->addWidget(stbStatus);
   layOutDesign();
   layOutRows(gap);
 }

@@ -1,5 +1,7 @@
 #include "ui/data_windows/frmVars.h"
 
+#include <algorithm>
+
 #include "model/delete_value.h"
 #include "model/value_lists.h"
 #include "runtime/number_text.h"
@@ -10,6 +12,12 @@ namespace tavimor {
 namespace {
 
 bool isOfANumber(QChar character) { return QStringLiteral("+-.0123456789Ee").contains(character); }
+
+QString whyDiscarded(QChar character) {
+  if (character == QLatin1Char('\b'))
+    return QStringLiteral("Backspace does nothing here: use the Delete key, or type over a selection");
+  return QStringLiteral("Numbers have digits, a decimal point, signs and E; no other key does anything here");
+}
 
 }  // namespace
 
@@ -36,11 +44,20 @@ void frmVars::connectEvents() {
 void frmVars::Form_Load() { txtDataEntry->hide(); }
 
 void frmVars::open(Form& above, Long row) {
+  stbStatus->clearHint();
   MSFlexGridVars->setRow(row);
   txtDataEntry->setText(MSFlexGridVars->Text());
   MSFlexGridVars->setFocus();
   showAbove(above);
   MSFlexGridVars->scrollToCell();  // a window that was not shown yet has no rows in view
+}
+
+// The grid tells of every cell on its way; the editor must not store what it showed before.
+void frmVars::showAnew(Long row) {
+  MSFlexGridVars->setRow(std::min<int>(row, MSFlexGridVars->Rows() - 1));
+  txtDataEntry->setText(MSFlexGridVars->Text());
+  txtDataEntry->selectAll();
+  MSFlexGridVars->scrollToCell();
 }
 
 void frmVars::MSFlexGridVars_Click() { placeEntry(); }
@@ -62,7 +79,9 @@ void frmVars::MSFlexGridVars_RowColChange() {
 }
 
 void frmVars::txtDataEntry_KeyPress(QChar& character) {
-  if (!isOfANumber(character)) character = QChar();
+  if (isOfANumber(character)) return;
+  stbStatus->showHint(whyDiscarded(character));
+  character = QChar();
 }
 
 void frmVars::txtDataEntry_KeyDown(int& keyCode) {
@@ -83,12 +102,19 @@ void frmVars::txtDataEntry_GotFocus() { txtDataEntry->selectAll(); }
 
 // A value is not changed by being shown: its text has 15 digits only.
 void frmVars::txtDataEntry_Change() {
-  if (!txtDataEntry->isVisible()) return;
+  stbStatus->clearHint();
+  if (!txtDataEntry->isVisible() || model_.Updating) return;
   MSFlexGridVars->setText(txtDataEntry->text());
   model_.I = MSFlexGridVars->Row();
-  const std::string text = txtDataEntry->text().toStdString();
+  store(txtDataEntry->text().toStdString());
+}
+
+void frmVars::store(const std::string& text) {
   double& value = valueOf(model_, model_.V, model_.I);
-  if (text != numberText(value)) value = Val(text);
+  if (text != numberText(value)) {
+    if (!isDeleting_) emit ValueChanging(model_.V, model_.I, Val(text));
+    value = Val(text);
+  }
   model_.VarX = value;
 }
 
@@ -96,11 +122,14 @@ void frmVars::cmdDelete_Click() {
   const Long v = model_.V, last = model_.LastPoint[v];
   if (last == 0) return;
   const Long r = model_.I = MSFlexGridVars->Row();
+  emit ValueDeleting(v, r);
+  isDeleting_ = true;
   const QString lastValue = QString::fromStdString(numberText(valueOf(model_, v, last)));
   txtDataEntry->setText(lastValue);
   MSFlexGridVars->setText(lastValue);
   MSFlexGridVars->setRows(last);
   if (r == last) txtDataEntry->hide();
+  isDeleting_ = false;
   deleteValue(model_, v, r);
   emit ValueDeleted(v);
 }

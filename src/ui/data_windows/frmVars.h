@@ -18,7 +18,19 @@ class frmVars : public Form, public VarsControls {
   /// Shows the window above another one, with the value of this row as the current one.
   void open(Form& above, Long row);
 
+  /// Shows what the grid has got anew: the value of this row becomes the current one.
+  void showAnew(Long row);
+
+  /// Shows a hint in the status line.
+  void tell(const QString& hint) { stbStatus->showHint(hint); }
+
  signals:
+  /// Value i of variable v is about to be changed to this one.
+  void ValueChanging(Long v, Long i, double newValue);
+
+  /// Value r of variable v is about to be deleted.
+  void ValueDeleting(Long v, Long r);
+
   /// A value of variable v was deleted: it has one less, and the function belongs to another grid.
   void ValueDeleted(Long v);
 
@@ -46,9 +58,11 @@ class frmVars : public Form, public VarsControls {
   void showEntry();
   void placeEntry();
   void step(int rows, int cols);
+  void store(const std::string& text);
   void finish();
 
   Dimension& model_;
+  bool isDeleting_ = false;
 };
 
 }  // namespace tavimor

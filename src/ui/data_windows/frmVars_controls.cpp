@@ -40,6 +40,7 @@ void VarsControls::makeControls(QWidget& window) {
   cmdDelete = makeButton(QStringLiteral("cmdDelete"), "Delete");
   cmdDelete->setToolTip(QStringLiteral("Find maxima and minima"));
   cmdExit = makeButton(QStringLiteral("cmdExit"), "Done");
+  stbStatus = new StatusLine;
 }
 
 void VarsControls::layOut(QWidget& window) const {
@@ -50,6 +51,7 @@ void VarsControls::layOut(QWidget& window) const {
   auto* whole = new QVBoxLayout(&window);
   whole->addWidget(MSFlexGridVars);
   whole->addLayout(buttons);
+  whole->addWidget(stbStatus);
 
   // Room for the column at twice its designed width, as it stands at the first opening.
   const int frame = 2 * MSFlexGridVars->frameWidth();
@@ -58,7 +60,8 @@ void VarsControls::layOut(QWidget& window) const {
   MSFlexGridVars->setMinimumWidth(widthOf(*MSFlexGridVars, kLabelDigits) + values + scrollBar + frame);
   MSFlexGridVars->setMinimumHeight(txtDataEntry->sizeHint().height() * kRowsInView / 2);
   window.resize(window.minimumSizeHint().width(), 0);
-  window.resize(window.width(), buttons->sizeHint().height() + txtDataEntry->sizeHint().height() * (kRowsInView + 1));
+  const int foot = buttons->sizeHint().height() + stbStatus->sizeHint().height();
+  window.resize(window.width(), foot + txtDataEntry->sizeHint().height() * (kRowsInView + 1));
 
   txtDataEntry->raise();
   const QList<QWidget*> order{MSFlexGridVars, txtDataEntry, cmdDelete, cmdExit};

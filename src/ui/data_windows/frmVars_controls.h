@@ -3,6 +3,7 @@
 #include <QPushButton>
 
 #include "ui/controls/flex_grid.h"
+#include "ui/controls/status_line.h"
 #include "ui/controls/text_box.h"
 
 namespace tavimor {
@@ -15,6 +16,7 @@ struct VarsControls {
   TextBox* txtDataEntry;  // floats over the grid's current cell, in no layout
   QPushButton* cmdDelete;
   QPushButton* cmdExit;
+  StatusLine* stbStatus;
 
  private:
   void makeControls(QWidget& window);

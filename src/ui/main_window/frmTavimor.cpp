@@ -8,14 +8,18 @@
 #include "platform/end_request.h"
 #include "ui/controls/message_box.h"
 #include "ui/main_window/frmAbout.h"
+#include "ui/main_window/step_recorder.h"
 
 namespace tavimor {
 
 frmTavimor::frmTavimor(Dimension& model)
     : Form(QStringLiteral("frmTavimor")), MainControls(static_cast<QWidget&>(*this)), model_(model) {
   setWindowTitle(kTitle);
+  steps_ = std::make_unique<StepRecorder>(static_cast<MainControls&>(*this), model_);
   connectCommands();
   connectAnalysis();
+  connectTools();
+  connectSteps();
   connectHeading();
   connectBlock(0);
   Form_Load();
@@ -25,24 +29,16 @@ void frmTavimor::Form_Load() {
   model_.WorkDir = QDir::currentPath().toStdString();
   doubleValuesColumn();
   setUpScript();
-  mnuSave->setEnabled(false);
-  mnuSaveAs->setEnabled(false);
-  mnuPrint->setEnabled(false);
-  mnuAbout->setVisible(false);
+  showStage(Stage::Start);
   lblVarNam->setText(QStringLiteral("Enter the names of the independent variables, separated by commas:"));
   model_.CurVar = 1;
   model_.X0 = model_.X1 = model_.X2 = model_.X3 = {0.0};
   model_.Coef.redim({0, 0, 0, 0});
   model_.F.redim({0, 0, 0, 0});
 
-  fraSpecs->setEnabled(false);
-  cmdEditFun->setEnabled(false);
-  cmdCompute->setEnabled(false);
-  cmdEvaluations->setEnabled(false);
-  mnuExport->setEnabled(false);
-  mnuCopyTable->setEnabled(false);
   showFileName();
   keepUnsavedWork();
+  steps_->settle();
   txtOrder->setFocus();
 
   setAcceptDrops(true);

@@ -21,9 +21,18 @@
 
 namespace tavimor {
 
+/// The first line of the list while it shows the precise coefficients.
+inline constexpr char kPreciseListed[] = "PRECISE COEFFICIENTS in the place of the listed ones, until Compute:";
+
 class frmAnalysis;
 class frmEvaluations;
+class frmFun;
 class frmVars;
+class StepRecorder;
+enum class Stage;
+struct Entries;
+struct Exchanged;
+struct Shown;
 
 /// The main window, the owner of the run: the user types the problem into it step by step, fits it and reads the
 /// results. All data live in the model, which the other windows share.
@@ -64,11 +73,20 @@ class frmTavimor : public Form, private MainControls {
   /// about to end. Errors: a Failure.
   void saveCopy(const std::string& path);
 
+  /// Whether something was typed since the problem was opened or saved; false as long as there is none to save.
+  bool hasUnsavedChanges() const;
+
   ScriptHost ScriptControl1;
   Printer printer;  // one for the whole run: the next report begins with the printer and the paper of the last one
   Long ierr = 0;    // the last run-time error that a function of the script object met
 
+ signals:
+  /// What a save would write may be another problem than before, or was saved.
+  void ProblemChanged();
+
  private:
+  enum class Direction { Back, Forth };
+
   void Form_Load();
   void Form_Unload() override;
   void mousePressEvent(QMouseEvent* event) override;
@@ -83,6 +101,7 @@ class frmTavimor : public Form, private MainControls {
   // Entry rules
   void connectHeading();
   void connectBlock(Long k);
+  void limit_Validate(const TextBox& field, bool& cancel);
   void txtOrder_Validate(bool& cancel);
   void txtOrder_LostFocus();
   void txtVarNams_Validate(bool& cancel);
@@ -93,7 +112,7 @@ class frmTavimor : public Form, private MainControls {
   void txtPoints_GotFocus(Long k);
   void txtPoints_Validate(Long k, bool& cancel);
   void txtPoints_LostFocus(Long k);
-  void namesGiven();
+  void connectHints(TextBox& field);
 
   // Files
   void mnuOpen_Click();
@@ -103,9 +122,11 @@ class frmTavimor : public Form, private MainControls {
   void takeSaveName();
   void saveIfNamed();
   void SaveProblem();
-  void showOpened(OpenedProblem opened);
+  void showOpened(OpenedProblem opened, const char* change);
+  void nameFile(const std::string& path);
+  void noteSaved();
   WorkEnd openAsLongWork(const std::string& path, OpenedProblem& opened);
-  void saveAsLongWork(const std::string& path);
+  WorkEnd saveAsLongWork(const std::string& path);
   bool isToEnd() const;
 
   // Tables
@@ -142,6 +163,7 @@ class frmTavimor : public Form, private MainControls {
   void mnuAnalysis_Click();
   void fitFound(ListedFrom from);
   void fitDropped();
+  void showWhatIsListed();
   void noAnalysis(const QString& why);
   void showAnalysis(const std::shared_ptr<const Analysis>& analysis, const Advice& advice);
   void tellVerdict();
@@ -165,9 +187,34 @@ class frmTavimor : public Form, private MainControls {
   frmVars& valuesWindow();
   void giveValuesAndFixTheirNumber(Long v);
   std::optional<PerVariable<Long>> askForStartingSet();
+  void beginEditing(Long v);
+  void beginAdding(Long v, Long count);
+  void beginReview();
   void openFunctionWindow(const PerVariable<Long>& start);
 
+  // Undo
+  void connectSteps();
+  void connectSteps(frmVars& window);
+  void connectSteps(frmFun& window);
+  void mnuUndo_Click();
+  void mnuRedo_Click();
+  void travel(Direction direction);
+  void showSteps();
+  void showExchanged(const Exchanged& exchanged, const Shown& shown);
+  void showEntries(const Entries& entries);
+  void showStage(Stage stage);
+  void showPlace(Long k);
+  void showFirstFields();
+  bool isDataWindowOpen() const;
+  void showInDataWindow(const Exchanged& exchanged);
+
+  // Tools
+  void connectTools();
+  void fillRecent();
+
   // Status line
+  void tell(const QString& hint);
+  void showWorth();
   void showFileName();
   void showBlockOfBlocks(Long k);
 
@@ -184,6 +231,9 @@ class frmTavimor : public Form, private MainControls {
   Class1 sh_{ierr};
   QPointer<frmEvaluations> evaluations_;
   QPointer<frmVars> valuesWindow_;
+  QPointer<frmFun> functionWindow_;
+  std::unique_ptr<StepRecorder> steps_;
+  std::size_t openedAt_ = 0;  // the step at which the data window was opened
   CommonDialog cdbFile;
   std::optional<ProblemKeeper> keeper_;
   HelpKey helpKey_{[this](const QString& page) { showHelp(page); }};

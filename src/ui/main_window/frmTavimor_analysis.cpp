@@ -5,6 +5,7 @@
 #include "ui/analysis/frmAnalysis.h"
 #include "ui/controls/message_box.h"
 #include "ui/main_window/frmTavimor.h"
+#include "ui/main_window/step_recorder.h"
 
 namespace tavimor {
 
@@ -174,11 +175,24 @@ void frmTavimor::usePreciseCoefficients() {
     showWarning(QStringLiteral("The fit is not the one that was analysed: press Compute first."));
     return;
   }
+  steps_->takeTyped();
+  steps_->begin({"precise coefficients used", {}});
+  steps_->keepResults();
   static_cast<Fit&>(model_) = listedForm(analysis_->opinion.precise);
   isPreciseListed_ = true;
   lstCoeff->clear();
   ShowResults();
+  steps_->settle();
   fitFound(ListedFrom::PreciseSolution);
+}
+
+// After another state was brought back.
+void frmTavimor::showWhatIsListed() {
+  isPreciseListed_ = lstCoeff->count() > 0 && lstCoeff->text(0) == QLatin1String(kPreciseListed);
+  if (!model_.FitDone)
+    fitDropped();
+  else
+    fitFound(isPreciseListed_ ? ListedFrom::PreciseSolution : ListedFrom::FitMadeNow);
 }
 
 void frmTavimor::openFunctionAt(const PerVariable<Long>& index) {

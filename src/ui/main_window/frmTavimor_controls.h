@@ -28,11 +28,17 @@ struct MainControls {
   QAction* mnuFileBar2;
   QAction* mnuPrint;
   QAction* mnuTools;
+  QAction* mnuUndo;
+  QAction* mnuRedo;
+  QAction* mnuToolsBar1;
   QAction* mnuImport;
   QAction* mnuPaste;
   QAction* mnuExport;
   QAction* mnuRestore;
   QAction* mnuAnalysis;
+  QAction* mnuToolsBar2;
+  QAction* mnuRecent;
+  QAction* mnuNewWindow;
   QAction* mnuHelp;
   QAction* mnuAbout;
 

@@ -9,8 +9,10 @@
 #include "runtime/text.h"
 #include "runtime/val.h"
 #include "ui/controls/message_box.h"
+#include "ui/controls/recent_files.h"
 #include "ui/controls/wait_pointer.h"
 #include "ui/main_window/frmTavimor.h"
+#include "ui/main_window/step_recorder.h"
 
 namespace tavimor {
 
@@ -34,9 +36,8 @@ void frmTavimor::openFile(const std::string& path) {
     OpenedProblem opened;
     if (openAsLongWork(path, opened) == WorkEnd::CalledOff) return;
     refusedFile_.clear();
-    model_.FileName = path;
-    showOpened(std::move(opened));
-    keeper_->noteSaved();
+    showOpened(std::move(opened), "problem opened");
+    nameFile(path);
   } catch (const Failure& failure) {
     reportUnopened(failure.path().empty() ? path : failure.path(), failure.report());
   }
@@ -49,18 +50,35 @@ WorkEnd frmTavimor::openAsLongWork(const std::string& path, OpenedProblem& opene
   return work.run([&] { opened = openProblem(path, [&work](double share) { work.tellOrLeave(share); }); });
 }
 
-void frmTavimor::saveAsLongWork(const std::string& path) {
+WorkEnd frmTavimor::saveAsLongWork(const std::string& path) {
   const WaitPointer hourglass;
   LongWork work(*wrkDisplay, [this] { return isToEnd(); });
   const Progress progress = [&work](double share) { work.tellOrLeave(share); };
   std::optional<std::string> refusal;
   const WorkEnd end =
       work.run([&] { refusal = writeKeepingReplaced(model_, model_, path, keeper_->session(), progress); });
-  if (end == WorkEnd::Done) keeper_->noteSaved();
   if (refusal) keeper_->tellRefusal(QString::fromStdString(*refusal));
+  return end;
 }
 
-void frmTavimor::showOpened(OpenedProblem opened) {
+// The step has brought a problem that stands in this file.
+void frmTavimor::nameFile(const std::string& path) {
+  const std::string before = std::exchange(model_.FileName, path);
+  steps_->keepFileName(before);
+  noteSaved();
+}
+
+// The problem as it stands is that of its file.
+void frmTavimor::noteSaved() {
+  steps_->setSaved();
+  keeper_->noteSaved();
+  addRecentFile(model_.FileName);
+}
+
+void frmTavimor::showOpened(OpenedProblem opened, const char* change) {
+  steps_->takeTyped();
+  steps_->begin({change, {}});
+  steps_->keepProblem();
   model_.LoadingFile = true;
   txtOrder->setEnabled(false);
   txtVarNams->setEnabled(false);
@@ -75,10 +93,9 @@ void frmTavimor::showOpened(OpenedProblem opened) {
   }
   SetDisplayedSpecs();
   ShowFitIfDone();
-  mnuOpen->setEnabled(false);
-  namesGiven();
+  showStage(Stage::NamesGiven);
   model_.LoadingFile = false;
-  showFileName();
+  steps_->settle();
   EditLimit(model_.CurVar - 1);
 }
 
@@ -141,7 +158,7 @@ void frmTavimor::saveIfNamed() {
 void frmTavimor::SaveProblem() {
   CaptureSpecs();
   try {
-    saveAsLongWork(model_.FileName);
+    if (saveAsLongWork(model_.FileName) == WorkEnd::Done) noteSaved();
   } catch (const ForeignFile& failure) {
     refusedFile_ = std::exchange(model_.FileName, {});
     showWarning(QString::fromStdString(failure.report() + "\n" + withEscapes(failure.path())));

@@ -42,18 +42,25 @@ void MainControls::makeFileMenu() {
   mnuPrint = addItem(*menu, "mnuPrint", "&Print", Qt::CTRL | Qt::Key_P);
 }
 
-// A table can be taken as long as a problem can be opened.
+// A table or a recent problem can be taken as long as a problem can be opened.
 void MainControls::makeToolsMenu() {
   QMenu* menu = menuBar->addMenu(QStringLiteral("&Tools"));
   mnuTools = menu->menuAction();
   mnuTools->setObjectName(QStringLiteral("mnuTools"));
+  mnuUndo = addItem(*menu, "mnuUndo", "&Undo", Qt::CTRL | Qt::Key_Z);
+  mnuRedo = addItem(*menu, "mnuRedo", "&Redo", Qt::CTRL | Qt::SHIFT | Qt::Key_Z);
+  mnuToolsBar1 = addBar(*menu, "mnuToolsBar1");
   mnuImport = addItem(*menu, "mnuImport", "&Import table...", Qt::CTRL | Qt::Key_I);
   mnuPaste = addItem(*menu, "mnuPaste", "&Paste table", Qt::CTRL | Qt::SHIFT | Qt::Key_V);
-  for (QAction* item : {mnuImport, mnuPaste})
-    QObject::connect(mnuOpen, &QAction::enabledChanged, item, &QAction::setEnabled);
   mnuExport = addItem(*menu, "mnuExport", "&Export formula...", Qt::CTRL | Qt::Key_E);
   mnuRestore = addItem(*menu, "mnuRestore", "&Restore...", Qt::CTRL | Qt::Key_R);
   mnuAnalysis = addItem(*menu, "mnuAnalysis", "&Analysis", Qt::Key_F9);
+  mnuToolsBar2 = addBar(*menu, "mnuToolsBar2");
+  mnuRecent = menu->addMenu(QStringLiteral("Open r&ecent"))->menuAction();
+  mnuRecent->setObjectName(QStringLiteral("mnuRecent"));
+  mnuNewWindow = addItem(*menu, "mnuNewWindow", "&New window", Qt::CTRL | Qt::Key_N);
+  for (QAction* item : {mnuImport, mnuPaste, mnuRecent})
+    QObject::connect(mnuOpen, &QAction::enabledChanged, item, &QAction::setEnabled);
 }
 
 }  // namespace tavimor

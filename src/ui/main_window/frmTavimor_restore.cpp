@@ -4,8 +4,8 @@
 #include "runtime/failure.h"
 #include "runtime/text.h"
 #include "ui/controls/message_box.h"
+#include "ui/controls/state_folder.h"
 #include "ui/main_window/frmTavimor.h"
-#include "ui/main_window/state_folder.h"
 #include "ui/restore/restore_dialog.h"
 
 namespace tavimor {
@@ -77,7 +77,7 @@ void frmTavimor::restore(const Restorable& chosen) {
 // where it could be, and the fields have the texts that stood in them.
 void frmTavimor::showRestored(SessionProblem kept) {
   const PerVariable<bool> valuesGiven = kept.problem.ValuesGiven;
-  showOpened({std::move(kept.problem), std::move(kept.fit), kept.fields});
+  showOpened({std::move(kept.problem), std::move(kept.fit), kept.fields}, "problem restored");
   model_.ValuesGiven = valuesGiven;
   for (Long k = 0; k <= model_.LastVar; ++k) {
     const SpecBlock& block = blocks[k];

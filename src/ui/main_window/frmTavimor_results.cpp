@@ -6,14 +6,9 @@
 #include "report/listing.h"
 #include "ui/controls/wait_pointer.h"
 #include "ui/main_window/frmTavimor.h"
+#include "ui/main_window/step_recorder.h"
 
 namespace tavimor {
-
-namespace {
-
-constexpr char kPreciseListed[] = "PRECISE COEFFICIENTS in the place of the listed ones, until Compute:";
-
-}  // namespace
 
 void frmTavimor::cmdCompute_Click() {
   const WaitPointer hourglass;
@@ -21,6 +16,7 @@ void frmTavimor::cmdCompute_Click() {
   CaptureSpecs();
   model_.FitDone = false;
   Compute();
+  showWorth();
   if (!model_.FitDone) return;
   QApplication::beep();
   ShowResults();
@@ -30,14 +26,20 @@ void frmTavimor::cmdCompute_Click() {
 
 void frmTavimor::ClearResults() {
   if (model_.LoadingFile) return;
+  steps_->takeTyped();
+  steps_->keepResults();
+  stbStatus->showResult({});
   lstCoeff->clear();
   model_.FitDone = isPreciseListed_ = false;
   fitDropped();
 }
 
 void frmTavimor::CaptureSpecs() {
+  steps_->takeTyped();
+  StepRecorder::Values before = steps_->values();
   tavimor::CaptureSpecs(model_, specFields());
   fitTablesToSpecs();
+  steps_->keepReplaced(std::move(before));
 }
 
 // A degree or a number of values can be captured before its field is left, or without the user's having been there;
@@ -49,7 +51,7 @@ void frmTavimor::fitTablesToSpecs() {
   }
   if (model_.F.last() != model_.LastPoint) {
     ClearResults();
-    model_.F.redim(model_.LastPoint);
+    steps_->replaceFunction(model_.LastPoint);
   }
   for (Long v = 0; v <= model_.LastVar; ++v) ResizeVarValues(model_, v);
 }

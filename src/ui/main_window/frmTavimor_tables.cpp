@@ -58,7 +58,7 @@ void frmTavimor::importText(std::string_view text) {
   if (!created || isEnding()) return;
   OpenedProblem opened{std::move(created->problem), {}, {}};
   for (Long k = 0; k < kMaxVariables; ++k) opened.fields[k].txtExpansion = created->centres[k];
-  showOpened(std::move(opened));
+  showOpened(std::move(opened), "table taken");
 }
 
 void frmTavimor::dragEnterEvent(QDragEnterEvent* event) {

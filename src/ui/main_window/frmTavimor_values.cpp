@@ -1,8 +1,10 @@
 #include "model/value_lists.h"
 #include "runtime/number_text.h"
 #include "ui/analysis/frmAnalysis.h"
+#include "ui/data_windows/frmFun.h"
 #include "ui/data_windows/frmVars.h"
 #include "ui/main_window/frmTavimor.h"
+#include "ui/main_window/step_recorder.h"
 
 namespace tavimor {
 
@@ -26,6 +28,7 @@ frmVars& frmTavimor::valuesWindow() {
     valuesWindow_ = new frmVars(model_);
     connect(valuesWindow_, &frmVars::ValueDeleted, this, &frmTavimor::numberOfValuesChanged);
     connect(valuesWindow_, &frmVars::Finished, this, &Form::enable);
+    connectSteps(*valuesWindow_);
   }
   return *valuesWindow_;
 }
@@ -40,6 +43,7 @@ void frmTavimor::EditVarValues(Long v, Long first) {
   model_.V = v;
   disable();
   PopulateGridVars(v);
+  openedAt_ = steps_->position();
   valuesWindow().open(*this, first);
 }
 
@@ -60,6 +64,7 @@ void frmTavimor::PopulateGridVars(Long v) {
 // The results belong to another grid than the one that variable v has now.
 void frmTavimor::numberOfValuesChanged(Long v) {
   blocks.at(v).txtPoints->setText(text(model_.LastPoint[v] + 1));
+  steps_->settle();
   ClearResults();
 }
 

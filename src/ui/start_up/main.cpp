@@ -13,6 +13,7 @@
 #include "runtime/usage_text.h"
 #include "ui/controls/application.h"
 #include "ui/controls/polite_end.h"
+#include "ui/controls/window_places.h"
 #include "ui/main_window/frmTavimor.h"
 #include "ui/start_up/SubMain.h"
 #include "ui/start_up/display_check.h"
@@ -79,6 +80,7 @@ int main(int argc, char** argv) {
   displayCheck.reset();
 
   QApplication::setQuitOnLastWindowClosed(false);
+  const WindowPlaces places;
   Dimension model;
   frmTavimor* window = Main(model);
   if (window == nullptr) return 0;

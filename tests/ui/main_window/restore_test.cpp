@@ -8,9 +8,9 @@
 
 #include "support/files.h"
 #include "support/stored.h"
+#include "ui/controls/state_folder.h"
 #include "ui/controls/status_line.h"
 #include "ui/data_windows/frmFun.h"
-#include "ui/main_window/state_folder.h"
 #include "ui/support/main_window_test.h"
 
 namespace tavimor {

@@ -1,4 +1,4 @@
-#include "ui/main_window/state_folder.h"
+#include "ui/controls/state_folder.h"
 
 #include <QDir>
 #include <QStandardPaths>
