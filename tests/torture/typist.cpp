@@ -28,8 +28,8 @@
 #include "runtime/failure.h"
 #include "runtime/number_text.h"
 #include "ui/controls/application.h"
+#include "ui/controls/state_folder.h"
 #include "ui/main_window/frmTavimor.h"
-#include "ui/main_window/state_folder.h"
 
 namespace {
 
