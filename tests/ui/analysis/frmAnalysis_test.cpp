@@ -8,7 +8,8 @@
 #include "analysis/analysis.h"
 #include "analysis/degree_search.h"
 #include "ui/analysis/analysis_page.h"
-#include "ui/controls/user_settings.h"
+#include "ui/controls/remembered.h"
+#include "ui/controls/window_places.h"
 
 namespace tavimor {
 namespace {
@@ -37,7 +38,7 @@ class AnalysisFrame : public testing::Test {
   AnalysisFrame() { open(); }
   ~AnalysisFrame() override {
     close();
-    userSettings().clear();
+    Remembered().clear();
   }
 
   void open() {
@@ -67,6 +68,7 @@ class AnalysisFrame : public testing::Test {
     return *window->findChild<T*>(name);
   }
 
+  const WindowPlaces places;
   CountingPage* first;
   CountingPage* second;
   frmAnalysis* window;

@@ -5,13 +5,13 @@
 
 #include "support/stored.h"
 #include "support/stored_problems.h"
-#include "ui/controls/user_settings.h"
+#include "ui/controls/remembered.h"
 
 namespace tavimor {
 
 AnalysisWindowTest::~AnalysisWindowTest() {
   if (window != nullptr) window->unload();
-  userSettings().clear();
+  Remembered().clear();
 }
 
 frmAnalysis& AnalysisWindowTest::analysis() {
