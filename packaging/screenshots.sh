@@ -44,6 +44,11 @@ keys F1
 picture help-window '^Tavimor Help$'
 stop
 
+# Pictures of fits, for which no window opens.
+"$tavimor" --picture section -o "$folder/section.png" --x C examples/offset-print
+"$tavimor" --picture map -o "$folder/map.png" examples/silicon-index
+"$tavimor" --picture residuals -o "$folder/residuals.png" examples/silicon-index
+
 # The tour of the README.
 folder=$PWD/$folder
 cd "$work"
