@@ -43,7 +43,7 @@ TEST(Advice, OfAGoodFitIsNone) {
 }
 
 TEST(Advice, TellsDegreesThatAreEnough) {
-  Dimension line = exponential(0, 3);
+  Dimension line = exponential(-2.5, 3);
   for (Long i = 0; i <= 5; ++i) line.F(i, 0, 0, 0) = 1 + 2.0 * i;
   const auto analysis = analyse(test::fitted(line));
   const Advice advice = adviceOn(*analysis);
