@@ -46,9 +46,9 @@ TEST_F(DegenerateInput, AsManyCoefficientsAsPoints) {
 }
 
 TEST_F(DegenerateInput, DegreeZero) {
-  Dimension model = test::gridProblem({4});
-  model.Degree[0] = 0;
-  lookAtAllPages(model);
+  Dimension problem = test::gridProblem({4});
+  problem.Degree[0] = 0;
+  lookAtAllPages(problem);
   EXPECT_EQ(coefficients().model()->rowCount(), 1);
   EXPECT_EQ(cell(coefficients(), 0, 0), "1");
 }
@@ -87,28 +87,28 @@ TEST_F(DegenerateInput, AValueThatIsNoNumber) {
 }
 
 TEST_F(DegenerateInput, ValuesThatAreEqual) {
-  Dimension model = test::gridProblem({6});
-  model.Degree[0] = 3;
-  model.EquallySpaced[0] = false;
-  model.X0 = {0.1, 0.1, 0.3, 0.3, 0.3, 0.7};
-  lookAtAllPages(model);
+  Dimension problem = test::gridProblem({6});
+  problem.Degree[0] = 3;
+  problem.EquallySpaced[0] = false;
+  problem.X0 = {0.1, 0.1, 0.3, 0.3, 0.3, 0.7};
+  lookAtAllPages(problem);
   EXPECT_THAT(verdict(), HasSubstr("They do with degree 2."));
 }
 
 TEST_F(DegenerateInput, ASingleValueOfAVariable) {
-  Dimension model = test::gridProblem({4, 1});
-  model.Degree = {1, 0};
-  model.FitDone = true;
-  model.Coef.redim(model.Degree);
-  openWithAnalysis(model);
+  Dimension problem = test::gridProblem({4, 1});
+  problem.Degree = {1, 0};
+  problem.FitDone = true;
+  problem.Coef.redim(problem.Degree);
+  openWithAnalysis(problem);
   waitForVerdict();
   lookAtAllPages();
 }
 
 TEST_F(DegenerateInput, LongNamesLeaveRoomForTheNumbers) {
-  Dimension model = test::gridProblem({4, 4});
-  model.VarName = {std::string(300, 'a'), std::string(300, 'b')};
-  lookAtAllPages(model);
+  Dimension problem = test::gridProblem({4, 4});
+  problem.VarName = {std::string(300, 'a'), std::string(300, 'b')};
+  lookAtAllPages(problem);
   EXPECT_LT(coefficients().columnWidth(0), coefficients().width());
   EXPECT_EQ(cell(coefficients(), 1, 0), std::string(300, 'a'));
 }

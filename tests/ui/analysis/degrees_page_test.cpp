@@ -15,11 +15,11 @@ using testing::StartsWith;
 class Degrees : public AnalysisWindowTest {
  protected:
   Degrees() {
-    Dimension model = test::gridProblem({6, 5});
-    model.Degree = {2, 2};
+    Dimension problem = test::gridProblem({6, 5});
+    problem.Degree = {2, 2};
     for (Long i = 0; i <= 5; ++i)
-      for (Long j = 0; j <= 4; ++j) model.F(i, j, 0, 0) = 1 + 2.0 * i + 1.0 * j * j;
-    openWithAnalysis(model);
+      for (Long j = 0; j <= 4; ++j) problem.F(i, j, 0, 0) = 1 + 2.0 * i + 1.0 * j * j;
+    openWithAnalysis(problem);
     compute();
     page("pagDegrees");
     EXPECT_TRUE(QTest::qWaitFor([] { return note("pagDegrees").rfind("Looking", 0) != 0; }));

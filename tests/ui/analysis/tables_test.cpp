@@ -14,10 +14,10 @@ namespace {
 class AnalysisTables : public AnalysisWindowTest {
  protected:
   AnalysisTables() {
-    Dimension model = test::gridProblem({7});
-    model.Degree[0] = 2;
-    for (Long i = 0; i <= 6; ++i) model.F(i, 0, 0, 0) = 5 - 3.0 * i + 0.5 * i * i + (i % 2) * 0.01;
-    openWithAnalysis(model);
+    Dimension problem = test::gridProblem({7});
+    problem.Degree[0] = 2;
+    for (Long i = 0; i <= 6; ++i) problem.F(i, 0, 0, 0) = 5 - 3.0 * i + 0.5 * i * i + (i % 2) * 0.01;
+    openWithAnalysis(problem);
     compute();
   }
 

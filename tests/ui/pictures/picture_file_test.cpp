@@ -8,6 +8,7 @@
 #include <memory>
 
 #include "analysis/pictures/pictured_fits.h"
+#include "runtime/run_time_error.h"
 #include "support/files.h"
 #include "support/temporary_folder.h"
 #include "ui/pictures/drawings.h"
