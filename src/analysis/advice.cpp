@@ -81,7 +81,7 @@ void addDegrees(Advice& advice, const Analysis& analysis, const AnalysisOptions&
     advice.degrees = one.degrees;
     advice.sentence += " By BIC " + namedDegrees(problem, one.degrees) +
                        " would do: " + termCount(one.statistics.terms) + " instead of " +
-                       termCount(opinion.data.terms()) + ".";
+                       std::to_string(opinion.data.terms()) + ".";
   }
 }
 

@@ -3,6 +3,7 @@
 #include <QMessageBox>
 
 #include "analysis/analysis.h"
+#include "model/value_lists.h"
 #include "runtime/number_text.h"
 #include "support/stored.h"
 #include "support/stored_problems.h"
@@ -38,6 +39,9 @@ TEST_F(VerdictButton, OffersNoLowerDegreesToAFitThatGoesThroughAllPoints) {
 TEST_F(VerdictButton, OffersDegreesThatAreEnough) {
   Dimension line = test::gridProblem({6});
   line.Degree[0] = 3;
+  line.LowerLimit[0] = -2.5;  // about its centre
+  line.UpperLimit[0] = 2.5;
+  generateSpacedValues(line, 0);
   for (Long i = 0; i <= 5; ++i) line.F(i, 0, 0, 0) = 1 + 2.0 * i;
   openWithAnalysis(line);
   compute();

@@ -25,7 +25,7 @@ TEST_F(PictureCommand, WritesEachPictureInEachForm) {
   for (const char* kind : {"section", "map", "residuals", "degrees"})
     for (const auto& [ending, beginning] : forms) {
       const std::string file = folder / (std::string(kind) + "." + ending);
-      const Outcome outcome = run({"--picture", kind, "-o", file, kExample});
+      const Outcome outcome = run({"--picture", kind, "-o", file, TAVIMOR_SOURCE_DIR "/examples/silicon-index"});
       EXPECT_EQ(outcome.exitCode, 0) << outcome.err;
       EXPECT_EQ(outcome.err, "");
       EXPECT_THAT(readBytes(file), StartsWith(beginning));

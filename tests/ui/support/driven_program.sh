@@ -22,7 +22,6 @@ state=$(mktemp -d)
 export XDG_STATE_HOME=$state # what the program keeps for restoring: never the user's own
 trap 'kill "${pid:-}" 2>/dev/null || true; rm -rf "$folder" "$state"' EXIT
 cd "$folder"
-export XDG_STATE_HOME=$folder/.state
 unset LANG LC_NUMERIC
 export LC_ALL=C.UTF-8 # whatever the locale of the tests is
 
