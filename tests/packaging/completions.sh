@@ -36,7 +36,7 @@ expectEqual "files to write" "ozone ozone.dat" "$(completed tavimor-cli fit --ou
 expectEqual "the problem behind them" "ozone" "$(completed tavimor-cli fit -o fitted oz)"
 expectEqual "forms" "javascript json" "$(completed tavimor-cli export ozone --to j)"
 expectEqual "the problem behind the form" "ozone" "$(completed tavimor-cli export --to json oz)"
-expectEqual "options of export" "--checks --help --name --nan-outside --output --precise --to --within" \
+expectEqual "options of export" "--checks --help --name --nan-outside --no-check --output --precise --to --within" \
   "$(completed tavimor-cli export -)"
 expectEqual "the copy" "ozone ozone.dat" "$(completed tavimor-cli copy ozone oz)"
 
