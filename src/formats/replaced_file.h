@@ -14,10 +14,10 @@ void requireReplaceable(const std::string& path);
 /// The folder in which a file stands, to be flushed.
 std::string folderOf(const std::string& path);
 
-/// Puts `bytes` into the file `path`, whole or not at all: they are written beside it under a name that no other program
-/// uses, put on the disk, and take its name in one step. A link is followed. The new file has owner, group, permissions
-/// and extended attributes of the earlier one. What is refused leaves the earlier file and nothing beside it.
-/// Errors: a RunTimeError with the path.
+/// Puts `bytes` into the file `path`, whole or not at all: they are written beside it under a name that no other
+/// program uses, put on the disk, and take its name in one step. A link is followed. The new file has owner, group,
+/// permissions and extended attributes of the earlier one. What is refused leaves the earlier file and nothing beside
+/// it. Errors: a RunTimeError with the path.
 void replaceFile(const std::string& path, std::string_view bytes, FileSteps& steps = systemFileSteps());
 
 }  // namespace tavimor

@@ -32,7 +32,7 @@ constexpr int kFailed = 1, kWrongUsage = 2;  // as of tavimor-cli
 
 struct Arguments {
   std::string problem;
-  std::string restored;         // what a window hands to a new one
+  std::string restored;  // what a window hands to a new one
 #ifdef TAVIMOR_PICTURES
   std::optional<PictureRequest> picture;
 #endif

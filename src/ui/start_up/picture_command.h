@@ -25,7 +25,8 @@ struct NothingToShow : std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
-/// Makes the picture and writes its file, without a window or a display. Errors: WrongRequest, NothingToShow; a Failure. No file is written then.
+/// Makes the picture and writes its file, without a window or a display. Errors: WrongRequest, NothingToShow; a
+/// Failure. No file is written then.
 void makePicture(const PictureRequest& request);
 
 }  // namespace tavimor

@@ -45,8 +45,8 @@ TEST_F(Manual, EveryWindowHasItsPage) {
   std::vector<std::string> pages;
   for (const HelpHeading& heading : readHeadings(text))
     if (heading.level == 1) pages.push_back(heading.anchor.toStdString());
-  for (const char* window : {"frmTavimor", "frmVars", "frmFun", "frmEvaluations", "frmAbout", "frmAnalysis", "frmExport",
-                             "frmTable", "frmRestore"})
+  for (const char* window : {"frmTavimor", "frmVars", "frmFun", "frmEvaluations", "frmAbout", "frmAnalysis",
+                             "frmExport", "frmTable", "frmRestore"})
     EXPECT_THAT(pages, Contains(window));
 }
 
