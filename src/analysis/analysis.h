@@ -18,7 +18,7 @@ enum class ListedFrom { Nowhere, Files, FilesOfOtherData, FitMadeNow, PreciseSol
 /// A problem whose fields have been captured, with what is listed for it.
 struct ListedProblem {
   Problem problem;
-  AllSpecFields fields;  // of them the centres' texts count
+  AllSpecFields fields;  // as they were captured
   Fit fit;               // where there is one
   ListedFrom from = ListedFrom::Nowhere;
 
