@@ -64,8 +64,9 @@ class FailureBox : public QMessageBox {
 // The program may have been asked to end from outside; that also calls the questions off.
 bool isToEnd() {
   return Form::isAnyEnding() ||
-         ask(QStringLiteral("What you have typed since the last save will be lost.\n\nEnd the program?")) ==
-             Answer::Yes;
+         ask(QStringLiteral(
+             "What you have typed since the last save is in no file of yours. Tools, Restore... has it at "
+             "the next start, as far as it could be kept.\n\nEnd the program?")) == Answer::Yes;
 }
 
 bool hasSavedCopy(const SaveProblem& save) {
