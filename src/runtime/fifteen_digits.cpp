@@ -49,14 +49,14 @@ int leastExponent(double magnitude) {
 
 constexpr auto kPairsOfDigits = [] {
   std::array<char, 200> pairs{};
-  for (int n = 0; n < 100; ++n) {
+  for (std::size_t n = 0; n < 100; ++n) {
     pairs[2 * n] = static_cast<char>('0' + n / 10);
     pairs[2 * n + 1] = static_cast<char>('0' + n % 10);
   }
   return pairs;
 }();
 
-void putPair(std::uint32_t number, char* to) { std::memcpy(to, &kPairsOfDigits[2 * number], 2); }
+void putPair(std::uint32_t number, char* to) { std::memcpy(to, &kPairsOfDigits[2 * std::size_t{number}], 2); }
 
 void putEight(std::uint32_t number, char* to) {
   const std::uint32_t first = number / 10000, second = number % 10000;
@@ -90,8 +90,9 @@ char* putDecimal(const FifteenDigits& number, char* to) {
   std::memcpy(to, first, chunk);
   to += whole;
   if (first + whole >= end) return to;
-  std::memcpy(to, ".000", 4);
-  to += 1 + std::max(-number.exponent - 1, 0);
+  *to++ = '.';
+  std::fill_n(to, 3, '0');  // as many as can follow the point
+  to += std::max(-number.exponent - 1, 0);
   std::memcpy(to, first + whole, chunk);
   return to + (end - first - whole);
 }
