@@ -12,7 +12,6 @@ namespace tavimor {
 namespace {
 
 constexpr char kFunctionValue[] = "a value of the function";
-constexpr std::size_t kNumbersAtATime = 16384;  // as many as may be held beside the table
 
 // Where a few first indices have few points together, these are put into their places by cache lines.
 void readByStrips(InputFile& file, Table4& table) {
@@ -48,10 +47,12 @@ void readByLines(InputFile& file, Table4& table) {
 
 }  // namespace
 
+bool goesByStrips(const Table4& F) { return kStripWidth * (F.size() / F.extent(0)) <= kNumbersAtATime; }
+
 void readFunction(InputFile& file, Table4& F) {
   if (F.size() == F.extent(0))
     file.readDoubles(kFunctionValue, {F.data(), F.size()});
-  else if (kStripWidth * (F.size() / F.extent(0)) <= kNumbersAtATime)
+  else if (goesByStrips(F))
     readByStrips(file, F);
   else
     readByLines(file, F);

@@ -6,6 +6,7 @@
 
 #include "formats/file_pair.h"
 #include "formats/foreign_file.h"
+#include "formats/function_reader.h"
 #include "model/grid_indices.h"
 #include "model/table_strips.h"
 #include "model/value_lists.h"
@@ -15,7 +16,6 @@ namespace tavimor {
 namespace {
 
 constexpr std::size_t kNumbersBetweenReports = 4096;
-constexpr std::size_t kNumbersAtATime = 16384;  // as many as may be held beside the table
 
 // Counts the numbers of the tables, which are nearly all that is written.
 class Count {
@@ -52,10 +52,9 @@ void writeSpecification(const Problem& problem, const Fit& fit, OutputFile& file
 // Numbers go with the last index fastest, a table lies with the first one fastest: where a few first indices have few
 // points together, these are turned first.
 void writeFunction(const Table4& F, OutputFile& file, Count& count) {
-  const std::size_t length = F.size() / F.extent(0);
-  if (kStripWidth * length > kNumbersAtATime)
+  if (!goesByStrips(F))
     return forEachIndex<Fastest::Last>(F.last(), [&](const PerVariable<Long>& i) { print(F(i), file, count); });
-  const std::size_t width = kNumbersAtATime / length;
+  const std::size_t length = F.size() / F.extent(0), width = kNumbersAtATime / length;
   std::vector<double> turned(std::min(width, F.extent(0)) * length);
   for (std::size_t first = 0; first < F.extent(0); first += width) {
     const auto strip = std::span(turned).first(std::min(width, F.extent(0) - first) * length);
