@@ -1,10 +1,18 @@
 #include "model/spec_fields.h"
 
+#include <cmath>
+
 #include "runtime/checked_arithmetic.h"
 #include "runtime/number_text.h"
 #include "runtime/val.h"
 
 namespace tavimor {
+
+namespace {
+
+double middle(double lowerLimit, double upperLimit) { return (upperLimit + lowerLimit) / 2; }
+
+}  // namespace
 
 void SetDisplayedSpecs(const Problem& problem, AllSpecFields& fields) {
   for (Long k = 0; k <= problem.LastVar; ++k) {
@@ -16,8 +24,10 @@ void SetDisplayedSpecs(const Problem& problem, AllSpecFields& fields) {
   }
 }
 
+bool hasMiddle(double lowerLimit, double upperLimit) { return std::isfinite(middle(lowerLimit, upperLimit)); }
+
 double centreFromText(const std::string& text, double lowerLimit, double upperLimit) {
-  return text == "*" ? inRange((upperLimit + lowerLimit) / 2) : Val(text);
+  return text == "*" ? inRange(middle(lowerLimit, upperLimit)) : Val(text);
 }
 
 }  // namespace tavimor

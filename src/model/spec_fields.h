@@ -26,8 +26,11 @@ using AllSpecFields = PerVariable<SpecFields>;
 /// reader of a problem and the user put it there as it stands.
 void SetDisplayedSpecs(const Problem& problem, AllSpecFields& fields);
 
+/// True where the middle of the limits is within the range of a double.
+bool hasMiddle(double lowerLimit, double upperLimit);
+
 /// The centre that a text gives for an interval: the middle for exactly "*", else the text's Val.
-/// Errors: Overflow for a middle beyond the range of a double.
+/// Errors: Overflow for the middle of limits that have none.
 double centreFromText(const std::string& text, double lowerLimit, double upperLimit);
 
 }  // namespace tavimor

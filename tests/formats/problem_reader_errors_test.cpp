@@ -37,6 +37,8 @@ const Malformed kMalformed[] = {
      "line 2: expected the lower limit (a number), found \"low\""},
     {"AnUpperLimitThatIsMissing", "p", "0\nx,0,,*,#FALSE#,0,2\n#FALSE#\n",
      "line 2: expected the upper limit (a number), found nothing"},
+    {"LimitsWithoutAMiddle", "p", "0\nx,1E308,1.7E308,*,#FALSE#,0,2\n#FALSE#\n",
+     "line 2: expected a number as the centre of expansion, since the limits have no middle, found \"*\""},
     {"APeriodFlagThatIsANumber", "p", "0\nx,0,1,*,0,0,2\n#FALSE#\n",
      "line 2: expected the period flag (#TRUE# or #FALSE#), found \"0\""},
     {"ANegativeDegree", "p", "0\nx,0,1,*,#FALSE#,0,-2\n#FALSE#\n",

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <optional>
 #include <utility>
 
 #include "formats/tables/table_format.h"
@@ -27,7 +28,6 @@ void declareVariable(Problem& problem, Long k, std::vector<double> values) {
   problem.Step[k] = (values.back() - values.front()) / problem.LastPoint[k];
   problem.EquallySpaced[k] = isEquallySpaced(values, problem.Step[k]);
   problem.Degree[k] = 1;
-  problem.Centre[k] = centreFromText("*", problem.LowerLimit[k], problem.UpperLimit[k]);
   problem.ValuesGiven[k] = true;
   problem.PeriodFlag[k] = true;
   valueList(problem, k) = std::move(values);
@@ -56,15 +56,24 @@ void setDegrees(Problem& problem, const std::vector<Long>& degrees, std::vector<
   }
 }
 
+std::optional<TableFinding> findingAboutCentre(const Problem& problem, Long k, const std::string& text) {
+  if (text != "*" && !cellNumber(text, DecimalMark::Point)) return centreIsNoNumber(text);
+  if (text == "*" && !hasMiddle(problem.LowerLimit[k], problem.UpperLimit[k]))
+    return limitsHaveNoMiddle(problem.VarName[k]);
+  return std::nullopt;
+}
+
 void setCentres(Problem& problem, const std::vector<std::string>& centres, std::vector<TableFinding>& findings) {
   if (isMiscounted(centres.size(), variableCount(problem))) {
     findings.push_back(centresAreMiscounted(centres.size(), variableCount(problem)));
     return;
   }
-  for (Long k = 0; k <= problem.LastVar && !centres.empty(); ++k) {
-    const std::string& text = entry(centres, k);
-    problem.Centre[k] = centreFromText(text, problem.LowerLimit[k], problem.UpperLimit[k]);
-    if (text != "*" && !cellNumber(text, DecimalMark::Point)) findings.push_back(centreIsNoNumber(text));
+  for (Long k = 0; k <= problem.LastVar; ++k) {
+    const std::string text = centres.empty() ? "*" : entry(centres, k);
+    if (const auto finding = findingAboutCentre(problem, k, text))
+      findings.push_back(*finding);
+    else
+      problem.Centre[k] = centreFromText(text, problem.LowerLimit[k], problem.UpperLimit[k]);
   }
 }
 

@@ -10,13 +10,13 @@
 
 namespace tavimor {
 
-/// Makes a problem of a function on a full grid, as the window would have it after its fields are captured, of degree 1
-/// about the middle of each interval. The limits are the lowest and the highest value of each variable; values that are
-/// exactly lower + i * step are marked equally spaced.
+/// Makes a problem of a function on a full grid, as the window would have it after its fields are captured, of
+/// degree 1. The centres are left to setDegreesAndCentres. The limits are the lowest and the highest value of each
+/// variable; values that are exactly lower + i * step are marked equally spaced.
 Problem problemFromGrid(GridFunction grid, const std::vector<std::string>& names);
 
-/// Sets the degrees and the centres, one for each variable or one for all; none leaves them as they are. A centre is a
-/// number or "*", the middle of the interval. Returns what is refused of them.
+/// Sets the degrees and the centres, one for each variable or one for all; no degrees leave them as they are, no
+/// centres are the middles. A centre is a number or "*", the middle of the interval. Returns what is refused of them.
 std::vector<TableFinding> setDegreesAndCentres(Problem& problem, const std::vector<Long>& degrees,
                                                const std::vector<std::string>& centres);
 

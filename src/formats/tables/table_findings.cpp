@@ -262,6 +262,10 @@ TableFinding centreIsNoNumber(const std::string& text) {
   return {FindingKind::BadCentre, "the centre " + quoted(text) + " is no number and not *"};
 }
 
+TableFinding limitsHaveNoMiddle(const std::string& variable) {
+  return {FindingKind::BadCentre, "the limits of " + variable + " have no middle to expand about"};
+}
+
 TableFinding formatIsTaken(const TableFormat& format, bool crossTable) {
   return {FindingKind::FormatTaken,
           std::string(crossTable ? "a cross table: " : "a list of points: ") + formatText(format)};

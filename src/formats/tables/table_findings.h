@@ -121,6 +121,7 @@ TableFinding degreesAreMiscounted(std::size_t degrees, std::size_t variables);
 TableFinding degreeIsTooHigh(Long degree, const std::string& variable, std::size_t values);
 TableFinding centresAreMiscounted(std::size_t centres, std::size_t variables);
 TableFinding centreIsNoNumber(const std::string& text);
+TableFinding limitsHaveNoMiddle(const std::string& variable);
 
 TableFinding formatIsTaken(const TableFormat& format, bool crossTable);
 TableFinding headingIsTaken(long headingLine, long unitsLine, const std::vector<std::string>& units);

@@ -194,6 +194,10 @@ const std::vector<BrokenTable>& brokenTables() {
        "0,1\n1,2\n2,4\n",
        withCentres({"middle"}),
        {"the centre \"middle\" is no number and not *"}},
+      {"LimitsWithoutAMiddle",
+       "1E308,1\n1.7E308,2\n1.75E308,3\n",
+       {},
+       {"the limits of x have no middle to expand about"}},
   };
   return tables;
 }

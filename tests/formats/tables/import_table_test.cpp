@@ -172,6 +172,12 @@ TEST(ImportTable, TakesDegreesAndCentres) {
   EXPECT_EQ(problem.Centre[1], 20);
 }
 
+TEST(ImportTable, LimitsWithoutAMiddleHaveAGivenCentre) {
+  ImportOptions options;
+  options.centres = {"1E308"};
+  EXPECT_EQ(imported("1E308,1\n1.7E308,2\n1.75E308,3\n", options).Centre[0], 1e308);
+}
+
 TEST(ImportTable, OneDegreeServesAllVariables) {
   ImportOptions options;
   options.degrees = {0};
