@@ -1,8 +1,12 @@
 // Prints which part of a fit takes which share of its time, in one thread, for each size: the least time of a stage
-// over several rounds, since what a noisy machine adds belongs to no stage.
+// over several rounds, since what a noisy machine adds belongs to no stage. Behind them, how long saving takes against
+// reading, where there is a disk in memory.
 //   bench-stages FOLDER-OF-PROBLEMS
+#include <unistd.h>
+
 #include <algorithm>
 #include <cstdio>
+#include <filesystem>
 #include <limits>
 #include <numeric>
 #include <vector>
@@ -12,6 +16,7 @@
 #include "engine/right_hand_side.h"
 #include "engine/statistics.h"
 #include "formats/open_problem.h"
+#include "formats/problem_writer.h"
 #include "measure.h"
 #include "model/capture_specs.h"
 #include "report/listing.h"
@@ -53,6 +58,22 @@ std::vector<double> timesOfOneRound(const std::string& path) {
   return printed > 0 && sums.size() > 0 && sumOfFitted == 0.0 ? seconds : std::vector<double>{};
 }
 
+// The least times of opening and of saving, on a disk that is memory: how long a real one takes to keep what it was
+// given is not ours.
+void printSaving(const std::string& path) {
+  const std::filesystem::path folder = "/dev/shm";
+  if (!std::filesystem::is_directory(folder)) return;
+  const std::string copy = (folder / ("tavimor-bench-" + std::to_string(getpid()))).string();
+  double reading = std::numeric_limits<double>::infinity(), saving = reading;
+  for (int round = 0; round < kRounds; ++round) {
+    OpenedProblem opened;
+    reading = std::min(reading, secondsOf([&] { opened = openProblem(path); }));
+    saving = std::min(saving, secondsOf([&] { writeProblem(opened.problem, opened.fit, copy, systemFileSteps()); }));
+  }
+  for (const std::string& name : {copy, copy + ".dat"}) std::filesystem::remove(name);
+  std::printf("; saving %.1f times reading", saving / reading);
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -67,6 +88,7 @@ int main(int argc, char** argv) {
     std::printf("%-4s", size.name);
     for (std::size_t n = 0; n < least.size(); ++n)
       std::printf("%s %s %.0f %% (%.2f ms)", n > 0 ? "," : "", kStages[n], 100 * least[n] / whole, 1e3 * least[n]);
+    printSaving(argv[1] + std::string("/") + size.name);
     std::printf("\n");
   }
 }
