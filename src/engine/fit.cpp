@@ -3,7 +3,6 @@
 #include <future>
 #include <new>
 #include <optional>
-#include <system_error>
 #include <utility>
 #include <vector>
 
@@ -12,6 +11,7 @@
 #include "engine/right_hand_side.h"
 #include "engine/solver.h"
 #include "engine/statistics.h"
+#include "runtime/beside.h"
 #include "runtime/run_time_error.h"
 
 namespace tavimor {
@@ -23,16 +23,6 @@ std::optional<Long> axisWithoutRoom(const Problem& problem) {
   for (Long k = 0; k < kMaxVariables; ++k)
     if (problem.Degree[k] > problem.LastPoint[k]) return k;
   return std::nullopt;
-}
-
-// Work that is done beside the caller's, or, where no thread is to be had, when its result is asked for.
-template <class Work>
-auto startBeside(const Work& work) {
-  try {
-    return std::async(std::launch::async, work);
-  } catch (const std::system_error&) {
-    return std::async(std::launch::deferred, work);
-  }
 }
 
 // The normal matrices need nothing of the right-hand side. Those of long axes are made beside it, in threads of their

@@ -7,6 +7,7 @@
 #include "formats/file_pair.h"
 #include "formats/foreign_file.h"
 #include "formats/function_reader.h"
+#include "formats/printed_pieces.h"
 #include "model/grid_indices.h"
 #include "model/table_strips.h"
 #include "model/value_lists.h"
@@ -15,17 +16,17 @@ namespace tavimor {
 
 namespace {
 
-constexpr std::size_t kNumbersBetweenReports = 4096;
-
-// Counts the numbers of the tables, which are nearly all that is written.
+// Counts the numbers of the tables and of the values, which are nearly all that is written.
 class Count {
  public:
   Count(const Problem& problem, const Fit& fit, const Progress& progress)
-      : all_(problem.F.size() + (fit.FitDone ? fit.Coef.size() : 0)), progress_(progress) {}
+      : all_(problem.F.size() + (fit.FitDone ? fit.Coef.size() : 0)), progress_(progress) {
+    for (Long d = 0; d < kMaxVariables; ++d) all_ += valueList(problem, d).size();
+  }
 
-  void addOne() {
-    if (++done_ % kNumbersBetweenReports == 0 && progress_)
-      progress_(static_cast<double>(done_) / static_cast<double>(all_));
+  void add(std::size_t numbers) {
+    done_ += numbers;
+    if (progress_) progress_(static_cast<double>(done_) / static_cast<double>(all_));
   }
 
  private:
@@ -34,9 +35,22 @@ class Count {
   const Progress& progress_;
 };
 
-void print(double number, OutputFile& file, Count& count) {
-  file.print(number);
-  count.addOne();
+void printPieces(std::size_t pieces, const NumbersOfPiece& numbersOf, OutputFile& file, Count& count) {
+  forEachPrinted(pieces, numbersOf, [&](const PrintedPiece& piece) {
+    file.printLines(piece.lines);
+    count.add(piece.numbers);
+  });
+}
+
+std::size_t piecesOf(std::size_t whole, std::size_t piece) { return (whole + piece - 1) / piece; }
+
+void print(std::span<const double> numbers, OutputFile& file, Count& count) {
+  const auto piece = [&](std::size_t n) {
+    const auto from = numbers.subspan(n * kNumbersAtATime);
+    const auto some = from.first(std::min(kNumbersAtATime, from.size()));
+    return std::vector<double>(some.begin(), some.end());
+  };
+  printPieces(piecesOf(numbers.size(), kNumbersAtATime), piece, file, count);
 }
 
 void writeSpecification(const Problem& problem, const Fit& fit, OutputFile& file, Count& count) {
@@ -46,21 +60,39 @@ void writeSpecification(const Problem& problem, const Fit& fit, OutputFile& file
                problem.PeriodFlag[v], problem.Period[v], problem.Degree[v]);
   file.write(fit.FitDone);
   if (!fit.FitDone) return;
-  for (std::size_t n = 0; n < fit.Coef.size(); ++n) print(fit.Coef.data()[n], file, count);  // first index fastest
+  print({fit.Coef.data(), fit.Coef.size()}, file, count);  // first index fastest
 }
 
-// Numbers go with the last index fastest, a table lies with the first one fastest: where a few first indices have few
-// points together, these are turned first.
-void writeFunction(const Table4& F, OutputFile& file, Count& count) {
-  if (!goesByStrips(F))
-    return forEachIndex<Fastest::Last>(F.last(), [&](const PerVariable<Long>& i) { print(F(i), file, count); });
+// The whole of a few first indices at a time.
+void writeByStrips(const Table4& F, OutputFile& file, Count& count) {
   const std::size_t length = F.size() / F.extent(0), width = kNumbersAtATime / length;
-  std::vector<double> turned(std::min(width, F.extent(0)) * length);
-  for (std::size_t first = 0; first < F.extent(0); first += width) {
-    const auto strip = std::span(turned).first(std::min(width, F.extent(0) - first) * length);
-    turnStrip(F, first, strip);
-    for (const double number : strip) print(number, file, count);
-  }
+  const auto strip = [&](std::size_t n) {
+    std::vector<double> turned(std::min(width, F.extent(0) - n * width) * length);
+    turnStrip(F, n * width, turned);
+    return turned;
+  };
+  printPieces(piecesOf(F.extent(0), width), strip, file, count);
+}
+
+void writeByPoints(const Table4& F, OutputFile& file, Count& count) {
+  std::vector<double> points;
+  forEachIndex<Fastest::Last>(F.last(), [&](const PerVariable<Long>& i) {
+    points.push_back(F(i));
+    if (points.size() < kNumbersAtATime) return;
+    print(points, file, count);
+    points.clear();
+  });
+  print(points, file, count);
+}
+
+// Numbers go with the last index fastest, a table lies with the first one fastest.
+void writeFunction(const Table4& F, OutputFile& file, Count& count) {
+  if (F.size() == F.extent(0))
+    print({F.data(), F.size()}, file, count);
+  else if (goesByStrips(F))
+    writeByStrips(F, file, count);
+  else
+    writeByPoints(F, file, count);
 }
 
 void writeValues(const Problem& problem, const Fit& fit, OutputFile& file, Count& count) {
@@ -70,8 +102,7 @@ void writeValues(const Problem& problem, const Fit& fit, OutputFile& file, Count
     file.write(problem.EquallySpaced[v]);
   }
   for (Long d = 0; d < kMaxVariables; ++d)
-    if (problem.LastPoint[d] != 0)
-      for (const double value : valueList(problem, d)) file.print(value);
+    if (problem.LastPoint[d] != 0) print(valueList(problem, d), file, count);
   writeFunction(problem.F, file, count);
   if (fit.FitDone)
     file.write(problem.NumGridPoints, fit.CorrCoef, fit.StdErr, fit.SumRes2, fit.AvgGiven, fit.AvgEstimated);

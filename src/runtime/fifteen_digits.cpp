@@ -33,18 +33,33 @@ Halves exactProduct(double a, double b) {
 }
 
 // To the nearest whole number, halves to the even one; below 2^53.
-std::uint64_t rounded(const Halves& sum) {
-  const auto whole = static_cast<std::uint64_t>(sum.high);
+std::int64_t rounded(const Halves& sum) {
+  const auto whole = static_cast<std::int64_t>(sum.high);
   const double beyondHalf = (sum.high - static_cast<double>(whole)) - 0.5;
   const bool isOdd = whole % 2 == 1;
   const bool up = beyondHalf > 0.0 || (beyondHalf == 0.0 && (sum.low > 0.0 || (sum.low == 0.0 && isOdd)));
   return whole + (up ? 1 : 0);
 }
 
-// The decimal exponent, or one less.
-int leastExponent(double magnitude) {
+// As the product of doubles would be rounded, but where it is so near to a half that its own rounding, a sixteenth at
+// most below 2^50, could tell.
+std::int64_t roundedProduct(double a, double b) {
+  constexpr double certain = 0.5 - 0x1p-4;
+  const double product = a * b;
+  const auto nearest = static_cast<std::int64_t>(product + 0.5);
+  if (std::fabs(product - static_cast<double>(nearest)) < certain) return nearest;
+  return rounded(exactProduct(a, b));
+}
+
+constexpr std::array<double, 20> kPowersFromTenThousandth = {
+    1e-4, 1e-3, 1e-2, 1e-1, 1e0, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7, 1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
+
+// Tells from a power of two whether the next power of ten is reached as well.
+int decimalExponent(double magnitude) {
   const int binary = static_cast<int>(std::bit_cast<std::uint64_t>(magnitude) >> 52) - 1023;
-  return static_cast<int>(std::floor(binary * 0.30102999566398));  // log10 2, rounded down
+  const int least = (binary * 78913) >> 18;  // times log10 2, rounded down
+  const double next = kPowersFromTenThousandth[static_cast<std::size_t>(least + 1 + 4)];
+  return least + (magnitude >= next ? 1 : 0);
 }
 
 constexpr auto kPairsOfDigits = [] {
@@ -69,12 +84,10 @@ void putEight(std::uint32_t number, char* to) {
 }  // namespace
 
 FifteenDigits fifteenDigits(double magnitude) {
-  int exponent = leastExponent(magnitude);
-  while (true) {
-    const std::uint64_t digits = rounded(exactProduct(magnitude, kExactPowersOfTen[kDigits - 1 - exponent]));
-    if (digits < kTooMany) return {digits, exponent};
-    ++exponent;
-  }
+  const int exponent = decimalExponent(magnitude);
+  const auto digits = static_cast<std::uint64_t>(roundedProduct(magnitude, kExactPowersOfTen[kDigits - 1 - exponent]));
+  if (digits < kTooMany) return {digits, exponent};
+  return {kTooMany / 10, exponent + 1};  // nines that were rounded up
 }
 
 char* putDecimal(const FifteenDigits& number, char* to) {

@@ -80,14 +80,17 @@ std::string writtenNumber(double value) {
 std::string writtenNumber(Long value) { return numberText(value); }
 
 std::string printedNumber(double value) {
-  std::string text;
-  appendPrintedNumber(text, value);
-  return text;
+  std::array<char, kMostCharacters> buffer;
+  return {buffer.data(), putPrinted(value, buffer.data())};
 }
 
-void appendPrintedNumber(std::string& text, double value) {
-  std::array<char, kMostCharacters> buffer;
-  text.append(buffer.data(), putPrinted(value, buffer.data()));
+std::string printedLines(std::span<const double> values) {
+  constexpr std::string_view lineEnd = "\r\n";
+  std::string lines(values.size() * (kMostCharacters + lineEnd.size()), '\0');
+  char* end = lines.data();
+  for (const double value : values) end = std::copy(lineEnd.begin(), lineEnd.end(), putPrinted(value, end));
+  lines.resize(static_cast<std::size_t>(end - lines.data()));
+  return lines;
 }
 
 std::string printedNumber(Long value) { return inPrintForm(writtenNumber(value)); }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <span>
 #include <string>
 
 #include "runtime/long.h"
@@ -22,7 +23,7 @@ std::string writtenNumber(Long value);
 std::string printedNumber(double value);
 std::string printedNumber(Long value);
 
-/// The same behind a text, for those who print many.
-void appendPrintedNumber(std::string& text, double value);
+/// Print lines: each number as printedNumber has it, and CR LF.
+std::string printedLines(std::span<const double> values);
 
 }  // namespace tavimor

@@ -9,7 +9,7 @@ namespace tavimor {
 
 namespace {
 constexpr std::size_t kPendingBytes = std::size_t{64} * 1024;
-}
+}  // namespace
 
 OutputFile::OutputFile(const std::string& path, FileSteps& steps, const std::string& target, Access access)
     : path_(path), target_(target.empty() ? path : target), steps_(steps) {
@@ -18,8 +18,13 @@ OutputFile::OutputFile(const std::string& path, FileSteps& steps, const std::str
 }
 
 void OutputFile::print(double value) {
-  appendPrintedNumber(pending_, value);
+  pending_ += printedNumber(value);
   endLine();
+}
+
+void OutputFile::printLines(std::string_view lines) {
+  pending_ += lines;
+  handOverWhenFull();
 }
 
 void OutputFile::print(Long value) {
@@ -56,6 +61,10 @@ void OutputFile::endRecord() {
 
 void OutputFile::endLine() {
   pending_ += "\r\n";
+  handOverWhenFull();
+}
+
+void OutputFile::handOverWhenFull() {
   if (pending_.size() >= kPendingBytes) handOver();
 }
 

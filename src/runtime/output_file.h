@@ -23,6 +23,9 @@ class OutputFile {
   void print(double value);
   void print(Long value);
 
+  /// Lines that were made by printedLines.
+  void printLines(std::string_view lines);
+
   template <class... Items>
   void write(const Items&... items) {
     (appendItem(items), ...);
@@ -45,6 +48,7 @@ class OutputFile {
   void appendItem(Long value);
   void endRecord();
   void endLine();
+  void handOverWhenFull();
   void handOver();
 
   std::string path_;

@@ -2,8 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <limits>
+#include <vector>
 
+#include "runtime/number_text.h"
 #include "support/expect_error.h"
 #include "support/files.h"
 #include "support/temporary_folder.h"
@@ -20,7 +23,9 @@ class OutputFileBytes : public test::FolderTest {
     OutputFile file(folder / "file", systemFileSteps());
     write(file);
     file.finish();
-    return test::readBytes(folder / "file");
+    std::string bytes = test::readBytes(folder / "file");
+    std::filesystem::remove(folder / "file");
+    return bytes;
   }
 };
 
@@ -47,6 +52,15 @@ TEST_F(OutputFileBytes, AWriteLineIsARecordWithoutBlanks) {
 
 TEST_F(OutputFileBytes, NothingWrittenIsAnEmptyFile) {
   EXPECT_EQ(written([](OutputFile&) {}), "");
+}
+
+TEST_F(OutputFileBytes, LinesMadeTogetherAreThoseOneByOne) {
+  std::vector<double> numbers;
+  for (int n = 0; n < 100000; ++n) numbers.push_back((n - 1e4) / 7.0);
+  const std::string oneByOne = written([&](OutputFile& file) {
+    for (const double number : numbers) file.print(number);
+  });
+  EXPECT_TRUE(written([&](OutputFile& file) { file.printLines(printedLines(numbers)); }) == oneByOne);
 }
 
 TEST_F(OutputFileBytes, ManyLinesComeWholeAndInOrder) {

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <cstddef>
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace tavimor {
+
+using NumbersOfPiece = std::function<std::vector<double>(std::size_t piece)>;
+
+struct PrintedPiece {
+  std::string lines;  // Print lines
+  std::size_t numbers;
+};
+
+/// Makes Print lines of pieces of numbers, two at a time in threads of their own, and hands them over in their order in
+/// the caller's thread, which has the system write one piece while the next ones are made. A single piece is made in
+/// the caller's thread. One of 16384 numbers takes several times as long as a thread's start.
+void forEachPrinted(std::size_t pieces, const NumbersOfPiece& numbersOf,
+                    const std::function<void(const PrintedPiece&)>& take);
+
+}  // namespace tavimor
