@@ -93,10 +93,11 @@ ShownRange rangeOfX(const std::vector<PicturePoint>& points) {
 }
 
 const QString kResidual = QStringLiteral("residual");
+constexpr int kFewNumbers = 3;  // along an axis of a small panel
 
 void drawCloud(Canvas& canvas, int row, int column, const QString& name, const std::vector<PicturePoint>& points) {
   constexpr std::size_t kMany = 2000;
-  Panel& panel = canvas.panel(row, column, {name, rangeOfX(points)}, {kResidual, rangeOfY(points)});
+  Panel& panel = canvas.panel(row, column, {name, rangeOfX(points), kFewNumbers}, {kResidual, rangeOfY(points)});
   panel.points(points, faint(canvas.theme().curve(0), points.size() > kMany ? 120 : 220),
                points.size() > kMany ? 2.5 : 5.0);
 }
@@ -110,7 +111,9 @@ void drawHistogram(Canvas& canvas, const Histogram& histogram) {
     most = std::max({most, height.back(), histogram.normal[n]});
   }
   const double upper = histogram.lower + static_cast<double>(histogram.counts.size()) * histogram.width;
-  Panel& panel = canvas.panel(1, 0, {kResidual, {histogram.lower, upper}}, {QStringLiteral("points"), {0.0, most}});
+  constexpr double kRoomForLegend = 1.25;
+  Panel& panel = canvas.panel(1, 0, {kResidual, {histogram.lower, upper}, kFewNumbers},
+                              {QStringLiteral("points"), {0.0, kRoomForLegend * most}});
   panel.bars(middle, height, histogram.width, canvas.theme().curve(0));
   panel.line(middle, histogram.normal, QPen(canvas.theme().warning, 2.0), QStringLiteral("normal distribution"));
   canvas.legend(panel);

@@ -1,5 +1,6 @@
 #include "ui/pictures/panel.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "analysis/pictures/round_numbers.h"
@@ -52,8 +53,9 @@ Panel::Panel(QCPAxisRect& rect, const AxisView& x, const AxisView& y, const Them
   homeY_ = withMargin(inY(y.range.lower), inY(y.range.upper));
   x_->setLabel(axisName(x.name, xExponent_));
   y_->setLabel(axisName(y.name, yExponent_));
-  const QSharedPointer<QCPAxisTicker> ticker(new NumberTicker);
   for (QCPAxis* axis : rect.axes()) {
+    const QSharedPointer<QCPAxisTicker> ticker(new NumberTicker);
+    ticker->setTickCount(axis == x_ ? x.numbers : y.numbers);
     axis->setTicker(ticker);
     axis->setBasePen(QPen(theme.text));
     axis->setTickPen(QPen(theme.text));
@@ -161,16 +163,17 @@ void Panel::shade(double from, double to) {
   item->bottomRight->setCoords(inX(to), 1.0);
 }
 
-void Panel::mark(std::size_t number) {
-  for (const PicturePoint& point : points_) {
-    if (point.number != number) continue;
-    QCPGraph* graph = x_->parentPlot()->addGraph(x_, y_);
-    graph->setLineStyle(QCPGraph::lsNone);
-    graph->setScatterStyle(QCPScatterStyle(QCPScatterStyle::ssCircle, QPen(theme_.warning, 2.5), Qt::NoBrush, 14));
-    graph->addData(point.x, point.y);
-    graph->setName({});
-    return;
-  }
+void Panel::mark(const std::optional<std::size_t>& number) {
+  if (mark_ != nullptr) x_->parentPlot()->removeGraph(mark_);
+  mark_ = nullptr;
+  const auto isMarked = [&](const PicturePoint& point) { return point.number == number; };
+  const auto point = std::find_if(points_.begin(), points_.end(), isMarked);
+  if (point == points_.end()) return;
+  mark_ = x_->parentPlot()->addGraph(x_, y_);
+  mark_->setLineStyle(QCPGraph::lsNone);
+  mark_->setScatterStyle(QCPScatterStyle(QCPScatterStyle::ssCircle, QPen(theme_.warning, 2.5), Qt::NoBrush, 14));
+  mark_->addData(point->x, point->y);
+  mark_->setName({});
 }
 
 QString Panel::placeText(const QPointF& place) const {

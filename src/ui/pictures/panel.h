@@ -3,6 +3,7 @@
 #include <qcustomplot.h>
 
 #include <QSharedPointer>
+#include <optional>
 #include <span>
 #include <vector>
 
@@ -13,10 +14,11 @@
 
 namespace tavimor {
 
-/// A variable along an axis of a panel: its name, and what is in view at first.
+/// A variable along an axis of a panel: its name, what is in view at first, and about how many numbers have room.
 struct AxisView {
   QString name;
   ShownRange range;
+  int numbers = 5;
 };
 
 /// A pair of axes and what is drawn between them. Numbers that a plotting library cannot calculate with are drawn in
@@ -33,8 +35,8 @@ class Panel {
   void text(double x, double y, const QString& text);
   /// A rectangle between two x over the whole height.
   void shade(double from, double to);
-  /// The point with this number, if it is among those drawn.
-  void mark(std::size_t number);
+  /// The point with this number, if it is among those drawn, in the place of the one marked before.
+  void mark(const std::optional<std::size_t>& number);
 
   double inX(double value) const;  // in the units of the axis
   double inY(double value) const;
@@ -61,6 +63,7 @@ class Panel {
   int xExponent_, yExponent_;
   QCPRange homeX_, homeY_;
   std::vector<PicturePoint> points_;  // in the units of the axes
+  QCPGraph* mark_ = nullptr;
 };
 
 /// Numbers along an axis: with a point whatever the locale, and as every number of the program is written.

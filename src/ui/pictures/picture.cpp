@@ -8,6 +8,17 @@
 
 namespace tavimor {
 
+namespace {
+
+constexpr QSize kLeastSize(240, 160);
+
+QString shortTitle(const QString& title) {
+  constexpr int kLongest = 100;
+  return title.size() <= kLongest ? title : title.left(kLongest - 1) + QChar(0x2026);
+}
+
+}  // namespace
+
 Picture::Picture(const QString& name) : plot_(new QCustomPlot) {
   setObjectName(name);
   setFocusPolicy(Qt::StrongFocus);
@@ -15,6 +26,7 @@ Picture::Picture(const QString& name) : plot_(new QCustomPlot) {
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->addWidget(plot_);
+  plot_->setMinimumSize(kLeastSize);  // however long its texts are
   plot_->setFocusProxy(this);
   plot_->setAutoAddPlottableToLegend(false);
   plot_->setInteractions(QCP::iRangeDrag | QCP::iRangeZoom);
@@ -66,7 +78,8 @@ void Picture::show(const QString& title, const QString& text, Drawing drawing) {
 void Picture::mark(std::optional<std::size_t> number) {
   if (marked_ == number) return;
   marked_ = number;
-  redraw();
+  for (const auto& panel : panels_) panel->mark(marked_);
+  plot_->replot(QCustomPlot::rpQueuedReplot);
 }
 
 void Picture::redraw() {
@@ -85,7 +98,7 @@ void Picture::redraw() {
   const Theme theme = paper_ ? *paper_ : screenTheme(palette());
   plot_->setBackground(QBrush(theme.background));
   plot_->setFont(font());
-  auto* title = new QCPTextElement(plot_, title_.size() <= 150 ? title_ : title_.left(149) + QChar(0x2026), font());
+  auto* title = new QCPTextElement(plot_, shortTitle(title_), font());
   title->setTextColor(theme.text);
   plot_->plotLayout()->addElement(0, 0, title);
   Canvas canvas(*plot_, theme, panels_);
@@ -95,8 +108,7 @@ void Picture::redraw() {
     isSame = labels[n] == panels_[n]->xAxis().label() + QLatin1Char('\n') + panels_[n]->yAxis().label();
   for (std::size_t n = 0; isSame && n < panels_.size(); ++n) panels_[n]->setRanges(ranges[n].first, ranges[n].second);
   isZoomed_ = isSame;
-  if (marked_)
-    for (const auto& panel : panels_) panel->mark(*marked_);
+  for (const auto& panel : panels_) panel->mark(marked_);
   plot_->replot(QCustomPlot::rpQueuedReplot);
 }
 
@@ -140,6 +152,10 @@ void Picture::keyPressEvent(QKeyEvent* event) {
     case Qt::Key_Plus: zoom(1 / kStep); break;
     case Qt::Key_Minus: zoom(kStep); break;
     case Qt::Key_Home: showAll(); break;
+    case Qt::Key_Escape:
+      showAll();
+      emit escaped();
+      break;
     default: QWidget::keyPressEvent(event);
   }
 }

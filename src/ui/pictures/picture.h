@@ -50,6 +50,8 @@ class Picture : public QWidget {
   void pointDoubleClicked(std::size_t number);
   /// An arrow key, which moves what the page holds.
   void arrowPressed(Qt::Key key);
+  /// Escape, which also shows the whole.
+  void escaped();
 
  protected:
   void changeEvent(QEvent* event) override;
