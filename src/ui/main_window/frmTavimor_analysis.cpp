@@ -196,7 +196,11 @@ void frmTavimor::showWhatIsListed() {
 }
 
 void frmTavimor::openFunctionAt(const PerVariable<Long>& index) {
-  if (leaveField()) openFunctionWindow(index);
+  if (!leaveField()) return;
+  if (analysis_ != nullptr && analysis_->problem().LastPoint == model_.LastPoint)
+    openFunctionWindow(index);
+  else
+    showWarning(QStringLiteral("The grid is not the one that was analysed: press Compute first."));
 }
 
 }  // namespace tavimor

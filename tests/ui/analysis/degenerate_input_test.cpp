@@ -31,6 +31,16 @@ class DegenerateInput : public AnalysisWindowTest {
       EXPECT_FALSE(note(name).empty()) << name;
       analysis().grab();
     }
+    for (const char* name : {"Section", "Map", "Residuals"}) lookAtPicture(name);
+  }
+
+  // A program without pictures has none of these pages.
+  static void lookAtPicture(const QString& name) {
+    const auto* picture = analysis().findChild<QWidget*>("pic" + name);
+    if (picture == nullptr) return;
+    page("pag" + name);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !picture->accessibleDescription().isEmpty(); })) << name.toStdString();
+    analysis().grab();
   }
 };
 
@@ -111,6 +121,7 @@ TEST_F(DegenerateInput, LongNamesLeaveRoomForTheNumbers) {
   lookAtAllPages(problem);
   EXPECT_LT(coefficients().columnWidth(0), coefficients().width());
   EXPECT_EQ(cell(coefficients(), 1, 0), std::string(300, 'a'));
+  EXPECT_LT(analysis().minimumSizeHint().width(), 860);
 }
 
 }  // namespace
