@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QPlainTextEdit>
 #include <QPushButton>
 
 #include "ui/controls/fonts.h"
@@ -17,6 +18,9 @@ Control* makeControl(const QString& name, const char* caption) {
 
 /// A button that the Tab key and the mouse give the focus to on every system, and that Enter presses too.
 QPushButton* makeButton(const QString& name, const char* caption);
+
+/// The text "txtPreview" of a dialog, of fixed pitch, to be looked at and copied from; the Tab key leaves it.
+QPlainTextEdit* makePreview();
 
 /// The width that a text box or a label needs for that many digits.
 int widthOf(const QWidget& control, int digits);

@@ -39,13 +39,7 @@ void ExportDialogControls::makeControls() {
   txtChecks->setToolTip(QStringLiteral("How many points a code carries to check itself; 0 for no check"));
   txtChecks->setText(QString::number(FormulaOptions().checks));
   chkPrecise = makeControl<QCheckBox>(QStringLiteral("chkPrecise"), "&Precise coefficients");
-  txtPreview = new QPlainTextEdit;
-  txtPreview->setObjectName(QStringLiteral("txtPreview"));
-  txtPreview->setAccessibleName(QStringLiteral("Preview"));
-  txtPreview->setReadOnly(true);
-  txtPreview->setLineWrapMode(QPlainTextEdit::NoWrap);
-  txtPreview->setFont(fixedPitchFont());
-  txtPreview->setTabChangesFocus(true);
+  txtPreview = makePreview();
   cmdCopy = makeButton(QStringLiteral("cmdCopy"), "&Copy");
   cmdSave = makeButton(QStringLiteral("cmdSave"), "&Save...");
   cmdClose = makeButton(QStringLiteral("cmdClose"), "Close");

@@ -2,7 +2,6 @@
 
 #include <QHBoxLayout>
 
-#include "ui/controls/fonts.h"
 #include "ui/controls/make_control.h"
 
 namespace tavimor {
@@ -16,7 +15,9 @@ constexpr int kRows = 30;
 
 RestoreDialogControls::RestoreDialogControls(QWidget& dialog) {
   makeList();
-  makePreview();
+  lblPreview = makeControl<QLabel>(QStringLiteral("lblPreview"), "&Preview:");
+  txtPreview = makePreview();
+  lblPreview->setBuddy(txtPreview);
   cmdOpen = makeButton(QStringLiteral("cmdOpen"), "&Open a copy");
   cmdRemove = makeButton(QStringLiteral("cmdRemove"), "&Remove");
   cmdClose = makeButton(QStringLiteral("cmdClose"), "Close");
@@ -35,18 +36,6 @@ void RestoreDialogControls::makeList() {
                                QStringLiteral("When"), QStringLiteral("Why it is here")});
   lstRestore->setTextElideMode(Qt::ElideMiddle);
   lblRestore->setBuddy(lstRestore);
-}
-
-void RestoreDialogControls::makePreview() {
-  lblPreview = makeControl<QLabel>(QStringLiteral("lblPreview"), "&Preview:");
-  txtPreview = new QPlainTextEdit;
-  txtPreview->setObjectName(QStringLiteral("txtPreview"));
-  txtPreview->setAccessibleName(QStringLiteral("Preview"));
-  txtPreview->setReadOnly(true);
-  txtPreview->setLineWrapMode(QPlainTextEdit::NoWrap);
-  txtPreview->setFont(fixedPitchFont());
-  txtPreview->setTabChangesFocus(true);
-  lblPreview->setBuddy(txtPreview);
 }
 
 void RestoreDialogControls::layOut(QWidget& dialog) const {

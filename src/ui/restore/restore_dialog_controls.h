@@ -21,7 +21,6 @@ struct RestoreDialogControls {
 
  private:
   void makeList();
-  void makePreview();
   void layOut(QWidget& dialog) const;
 };
 
