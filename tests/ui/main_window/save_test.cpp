@@ -73,6 +73,7 @@ struct Ending {
   const char* name;
   void (*come)();
 };
+void PrintTo(const Ending& ending, std::ostream* stream) { *stream << ending.name; }
 
 class SaveAtTheEnd : public Save, public testing::WithParamInterface<Ending> {
  protected:

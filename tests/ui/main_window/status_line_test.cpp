@@ -79,6 +79,7 @@ struct RefusedCase {
   const char* text;
   const char* hint;
 };
+void PrintTo(const RefusedCase& entry, std::ostream* stream) { *stream << entry.field << " \"" << entry.text << '"'; }
 
 class RefusedFields : public StatusLineOfTheWindow, public testing::WithParamInterface<RefusedCase> {};
 

@@ -69,6 +69,7 @@ struct FieldCase {
   const char* text;
   const char* step;
 };
+void PrintTo(const FieldCase& entry, std::ostream* stream) { *stream << entry.field << " \"" << entry.text << '"'; }
 
 class UndoOfAField : public UndoTest, public testing::WithParamInterface<FieldCase> {};
 
