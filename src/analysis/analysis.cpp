@@ -1,5 +1,6 @@
 #include "analysis/analysis.h"
 
+#include "analysis/part_of_work.h"
 #include "engine/fit.h"
 #include "model/capture_specs.h"
 #include "runtime/number_text.h"
@@ -8,12 +9,16 @@ namespace tavimor {
 
 namespace {
 
+// The shares of the work that are done when a stage ends.
+constexpr double kOpinionThere = 0.4, kStoredFitChecked = 0.6, kResidualsThere = 0.8;
+
 FitOutcome fitUnlessCancelled(const Problem& problem, const AnalysisOptions& options) {
   FitOptions how;
   how.threads = options.threads;
   how.instructionSet = options.instructionSet;
   how.fittedValues = FittedValues::PassedThrough;
   how.isCalledOff = options.cancelled;
+  how.progress = options.progress;
   FitOutcome outcome = fit(problem, how);
   goOn(options);
   return outcome;
@@ -86,11 +91,13 @@ std::unique_ptr<Analysis> analyse(ListedProblem listed, double level, Reading re
   auto analysis = std::make_unique<Analysis>(std::move(listed));
   ListedProblem& what = analysis->listed;
   analysis->level = level;
-  analysis->opinion = secondOpinionOn(what.problem, reading, centresFromFields(what.fields), options);
-  if (what.from == ListedFrom::Files && !areOfTheseData(*analysis, options)) what.from = ListedFrom::FilesOfOtherData;
+  analysis->opinion =
+      secondOpinionOn(what.problem, reading, centresFromFields(what.fields), partOf(options, 0.0, kOpinionThere));
+  if (what.from == ListedFrom::Files && !areOfTheseData(*analysis, partOf(options, kOpinionThere, kStoredFitChecked)))
+    what.from = ListedFrom::FilesOfOtherData;
   if (!analysis->opinion.isExact()) return analysis;
-  addInference(*analysis, options);
-  if (what.hasListed()) addDigits(*analysis, options);
+  addInference(*analysis, partOf(options, kStoredFitChecked, kResidualsThere));
+  if (what.hasListed()) addDigits(*analysis, partOf(options, kResidualsThere, 1.0));
   return analysis;
 }
 

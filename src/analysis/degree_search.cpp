@@ -2,11 +2,14 @@
 
 #include <algorithm>
 
+#include "analysis/part_of_work.h"
+
 namespace tavimor {
 
 namespace {
 
 constexpr std::size_t kBestWithPress = 10;
+constexpr double kDecomposed = 0.1;  // the share of the work that the passes for PRESS follow on
 
 ProblemData withDegrees(ProblemData data, const PerVariable<Long>& degrees) {
   for (int k = 0; k < kMaxVariables; ++k) data.axis[k].terms = static_cast<std::size_t>(degrees[k]) + 1;
@@ -44,7 +47,9 @@ PerVariable<Long> largestDegrees(const Problem& problem) {
 
 DegreeSearcher::DegreeSearcher(const ProblemData& data, const PerVariable<Long>& largest,
                                const AnalysisOptions& options)
-    : data_(withDegrees(data, largest)), options_(options), decomposition_(decompose(data_, options)) {}
+    : data_(withDegrees(data, largest)),
+      options_(options),
+      decomposition_(decompose(data_, partOf(options, 0.0, kDecomposed))) {}
 
 DegreeSearch DegreeSearcher::search() const {
   DegreeSearch search{.finding = decomposition_.finding, .combinations = {}, .press = {}};
@@ -55,13 +60,15 @@ DegreeSearch DegreeSearcher::search() const {
 
 std::vector<std::optional<double>> DegreeSearcher::pressOfBest(const DegreeSearch& search) const {
   std::vector<std::optional<double>> press(search.combinations.size());
-  AnalysisOptions quiet = options_;
-  quiet.progress = {};
-  for (const std::size_t n : bestByBic(search.combinations)) {
+  const std::vector<std::size_t> best = bestByBic(search.combinations);
+  const double pass = (1.0 - kDecomposed) / static_cast<double>(best.size());
+  double done = kDecomposed;
+  for (const std::size_t n : best) {
     const ProblemData lower = withDegrees(data_, search.combinations[n].degrees);
     PerVariable<std::size_t> terms{};
     for (int k = 0; k < kMaxVariables; ++k) terms[k] = lower.axis[k].terms;
-    press[n] = gridResiduals(lower, withTerms(decomposition_, terms), quiet).press;
+    press[n] = gridResiduals(lower, withTerms(decomposition_, terms), partOf(options_, done, done + pass)).press;
+    done += pass;
   }
   return press;
 }

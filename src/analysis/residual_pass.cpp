@@ -30,6 +30,7 @@ void visitLongAxis(const ProblemData& data, const Decomposition& decomposition, 
   PairList orthonormal(kMostDotted * basis.terms), values(kMostDotted);
   forEachBlock(data.axis[0], basis, sums, [&](std::size_t first, std::size_t count, ConstPairs polynomials) {
     goOn(options);
+    if (options.progress) options.progress(static_cast<double>(first) / static_cast<double>(data.axis[0].count));
     contractAll(sums, polynomials, basis.terms, kMostDotted, toOrthonormal, orthonormal);
     std::copy_n(function.values + first, count, values.high.begin());
     finishBlock(function, sums, values, count);
@@ -148,6 +149,7 @@ void visitTable(const ProblemData& data, const Decomposition& decomposition, con
   Line line(data, expansion, pairSums(options.instructionSet));
   for (std::size_t n = 0; n < expansion.lines(); ++n) {
     goOn(options);
+    if (options.progress) options.progress(static_cast<double>(n) / static_cast<double>(expansion.lines()));
     line.visitPoints(n, visit);
   }
 }

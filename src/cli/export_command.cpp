@@ -5,6 +5,7 @@
 #include "cli/fitting.h"
 #include "cli/output.h"
 #include "cli/problem_files.h"
+#include "cli/progress_bar.h"
 #include "formats/formulas/export_formats.h"
 #include "formats/formulas/make_formula.h"
 #include "formats/formulas/residual_table.h"
@@ -51,7 +52,10 @@ bool provideFormula(OpenedProblem& opened, const std::string& path, const Export
 std::optional<PointFigures> figuresOfPoints(OpenedProblem& opened, const std::string& path) {
   const SecondOpinion opinion = opinionShowingProgress(opened);
   if (!opinion.isExact()) complain(path, "no leverages: " + reasonText(opinion.precise.finding, opened.problem));
-  return pointFigures(opinion, opened.problem);
+  ProgressBar bar;
+  AnalysisOptions how;
+  how.progress = [&](double share) { bar.show(share); };
+  return pointFigures(opinion, opened.problem, how);
 }
 
 }  // namespace

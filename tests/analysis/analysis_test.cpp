@@ -2,6 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <utility>
+
+#include "analysis/degree_search.h"
 #include "analysis/right_digits.h"
 #include "engine/fit.h"
 #include "support/example.h"
@@ -69,6 +73,46 @@ TEST(Analysis, ToldToStopInTheMiddleOfTheRemedyStops) {
   const int last = std::exchange(asked, 0);
   options.cancelled = [&] { return ++asked == last; };
   EXPECT_THROW(analyse(farAway(), 0.95, Reading::AsTyped, options), AnalysisCancelled);
+}
+
+// Notes what it is told, in one thread.
+struct NotedProgress {
+  NotedProgress() {
+    options.threads = 1;
+    options.progress = [this](double share) { shares.push_back(share); };
+  }
+
+  // How much of the work passes without a word.
+  double longestSilence() const {
+    double longest = 1.0 - shares.back(), before = 0.0;
+    for (const double share : shares) longest = std::max(longest, share - std::exchange(before, share));
+    return longest;
+  }
+
+  AnalysisOptions options;
+  std::vector<double> shares;
+};
+
+TEST(Progress, OfAnAnalysisGoesOnThroughAllOfItsStages) {
+  NotedProgress noted;
+  ListedProblem listed = farAway();
+  listed.from = ListedFrom::Files;
+  analyse(std::move(listed), 0.95, Reading::AsTyped, noted.options);
+  ASSERT_FALSE(noted.shares.empty());
+  EXPECT_TRUE(std::is_sorted(noted.shares.begin(), noted.shares.end()));
+  EXPECT_LE(noted.shares.back(), 1.0);
+  EXPECT_LE(noted.longestSilence(), 0.4);
+}
+
+TEST(Progress, OfASearchForDegreesGoesOnThroughThePassesForPress) {
+  const test::Example example("heat-index");
+  NotedProgress noted;
+  const DegreeSearcher searcher(problemData(example.model), largestDegrees(example.model), noted.options);
+  searcher.pressOfBest(searcher.search());
+  ASSERT_FALSE(noted.shares.empty());
+  EXPECT_TRUE(std::is_sorted(noted.shares.begin(), noted.shares.end()));
+  EXPECT_LE(noted.shares.back(), 1.0);
+  EXPECT_LE(noted.longestSilence(), 0.1 + 1e-12);
 }
 
 }  // namespace

@@ -2,9 +2,10 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
 #include <thread>
 
-#include "support/process.h"
+#include "cli.h"
 
 namespace tavimor {
 namespace {
@@ -48,6 +49,42 @@ TEST(ProgressBar, LeavesTheLineClear) { EXPECT_THAT(shownOnTerminal(600ms), Ends
 TEST(ProgressBar, ShortWorkShowsNothing) { EXPECT_EQ(shownOnTerminal(0ms), ""); }
 
 TEST(ProgressBar, WithoutATerminalThereIsNone) { EXPECT_EQ(shownOnPipe(600ms), ""); }
+
+// 700 x 700 values of a function that is no polynomial, degrees of 11.
+class ProgressOfACommand : public test::CommandTest {
+ protected:
+  std::string large() {
+    constexpr int kValues = 700;
+    std::string values = " 1 \r\n";
+    for (int v = 0; v < 2; ++v) values += " 699 \r\n#TRUE#\r\n";
+    for (int v = 0; v < 2; ++v)
+      for (int i = 0; i < kValues; ++i) values += ' ' + std::to_string(i) + " \r\n";
+    for (int n = 0; n < kValues * kValues; ++n) values += ' ' + std::to_string(n * 7919LL % 1000) + " \r\n";
+    return writePair("large",
+                     test::fileText({" 1 ", R"("x",0,699,350,#TRUE#,0,11)", R"("y",0,699,350,#TRUE#,0,11)", "#FALSE#"}),
+                     values);
+  }
+
+  // The largest share that a terminal shows of the command.
+  static int largestShare(const std::vector<std::string>& command) {
+    test::PseudoTerminal terminal;
+    const test::Descriptor out(open("/dev/null", O_WRONLY | O_CLOEXEC));
+    test::Process process(STDIN_FILENO, out.number(), terminal.terminal.number(),
+                          [&] { return test::execute(TAVIMOR_CLI, command); });
+    terminal.terminal.close();
+    const std::string shown = test::readAll(terminal.master);
+    EXPECT_EQ(process.wait(), 0);
+    EXPECT_THAT(shown, EndsWith("\r\x1B[K"));
+    int largest = -1;
+    for (std::size_t at = 0; (at = shown.find("] ", at)) != std::string::npos; ++at)
+      largest = std::max(largest, std::stoi(shown.substr(at + 2)));
+    return largest;
+  }
+};
+
+TEST_F(ProgressOfACommand, DegreesTellsItUpToTheLastPass) {
+  EXPECT_GE(largestShare({"degrees", large(), "--max", "11,11"}), 80);
+}
 
 }  // namespace
 }  // namespace tavimor
