@@ -151,16 +151,17 @@ long longestPause(const std::vector<Noted>& notes, long killed) {
   return longest;
 }
 
-std::string givenIn(const std::string& folder) {
-  const SessionProblem kept = readKept(folder);
+std::string givenIn(const SessionProblem& kept) {
   return givenText(kept.fields[0].txtLL, kept.fields[0].txtUL, kept.fields[0].txtTerms, kept.problem.F);
 }
 
 // Whether nothing older than two seconds is lost; says what is.
 bool isRestored(const std::vector<Noted>& notes, const std::vector<Restorable>& all, long killed) {
   const long mayBeLost = killed - kMostLost - longestPause(notes, killed);
-  if (all.empty()) return notes.empty() || notes.front().when >= mayBeLost || !std::puts("nothing can be restored");
-  const std::string given = givenIn(all.front().folder);
+  const SessionProblem kept = all.empty() ? SessionProblem() : readKept(all.front().folder);
+  if (all.empty() || kept.typedNames)
+    return notes.empty() || notes.front().when >= mayBeLost || !std::puts("no problem can be restored");
+  const std::string given = givenIn(kept);
   for (std::size_t n = notes.size(); n-- > 0;) {
     if (notes[n].given == given) return true;
     if (notes[n].when < mayBeLost) break;

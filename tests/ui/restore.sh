@@ -10,6 +10,13 @@ killProgram() {
   wait "$pid" 2>/dev/null || true
 }
 
+# saysOfTheEnd NOTE: the only session that is left has said this of its end; it has said nothing where NOTE is empty.
+saysOfTheEnd() {
+  local notes
+  notes=$(cat "$sessions"/*/end 2>/dev/null || true)
+  [ "$notes" = "$1" ] || fail "the session says of its end: '$notes', not '$1'"
+}
+
 # restoreAs NAME: in a new run, saved under that name.
 restoreAs() {
   start
@@ -38,41 +45,43 @@ start
 typeProblem
 sleep 2
 killProgram
-[ ! -e "$(echo "$sessions"/*/end)" ] || fail "a killed session says how it has ended"
+saysOfTheEnd ""
 restoreAs killed
 isTheTypedProblem killed
 [ -z "$(ls "$sessions")" ] || fail "what was saved is still kept: $(ls "$sessions")"
 
-# The End of the error box: a folder that is missing.
+# The End of the error box: a slip in the box of indices, one for two variables.
 start
 typeProblem
 keys shift+Tab shift+Tab shift+Tab space # Done
 focus '^Tavimor$'
-keys ctrl+s
-focus '^Save As$'
-typed "$folder/missing/problem"
-keys Return
+keys space # Edit function
+focus '^Review of function$'
+typed 1; keys Return
 focus '^Tavimor$' 2
 keys Tab Return
 endsWith 1
-[ "$(cat "$sessions"/*/end)" = "run-time error" ] || fail "the error box's End is not told"
+saysOfTheEnd "run-time error"
 restoreAs ended
 isTheTypedProblem ended
 
-# Two programs at once, both killed.
+# A fault of the program two seconds after the last key.
+ulimit -c 0
 start
-typed 1; keys Tab
-typed x; keys Tab
-typed 11; keys Tab
-first=$pid
-start
-typed 1; keys Tab
-typed y; keys Tab
-typed 22; keys Tab
+typeProblem
 sleep 2
-killProgram
-pid=$first
-killProgram
-grep -l '"lower": "11"' "$sessions"/*/*/description.json >/dev/null || fail "the first program's work is lost"
-grep -l '"lower": "22"' "$sessions"/*/*/description.json >/dev/null || fail "the second program's work is lost"
+kill -SEGV "$pid"
+endsWith $((128 + 11)) 2>/dev/null
+saysOfTheEnd crashed
+restoreAs crashed
+isTheTypedProblem crashed
+
+# A request from outside, as at a log-off.
+start
+typeProblem
+endPolitely
+saysOfTheEnd "told to end"
+restoreAs told
+isTheTypedProblem told
+
 echo "passed"

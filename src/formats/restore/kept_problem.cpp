@@ -12,6 +12,7 @@
 #include "formats/whole_text.h"
 #include "model/salvage_specs.h"
 #include "model/value_lists.h"
+#include "platform/system_run.h"
 #include "runtime/bad_file.h"
 #include "runtime/input_file.h"
 #include "runtime/run_time_error.h"
@@ -49,7 +50,23 @@ void writeText(const std::string& path, const std::string& text, FileSteps& step
 std::string textOf(const json& value) { return value.dump(1, ' ', false, json::error_handler_t::replace) + '\n'; }
 
 json headOf(const std::string& file, std::uint64_t points, std::int64_t when) {
-  return {{"format", "tavimor-kept"}, {"version", 1}, {"file", file}, {"points", points}, {"when", when}};
+  return {{"format", "tavimor-kept"}, {"version", 1}, {"file", file},
+          {"points", points},         {"when", when}, {"systemRun", systemRun()}};
+}
+
+json descriptionOf(const TypedNames& typed, std::int64_t when) {
+  json description = headOf({}, 0, when);
+  description["names"] = {typed.txtVarNams};
+  description["number"] = typed.txtOrder;
+  description["numberIsGiven"] = typed.isNumberGiven;
+  return description;
+}
+
+SessionProblem problemOfTypedNames(const JsonItem& item) {
+  SessionProblem kept;
+  kept.typedNames = {item.member("number").text(), item.member("names").element(0).text(),
+                     item.member("numberIsGiven").truth()};
+  return kept;
 }
 
 // A pair does not hold the value of a variable that has one only.
@@ -111,6 +128,7 @@ KeptDescription describedByPair(const std::string& path) {
 }  // namespace
 
 bool haveSameWork(const SessionProblem& a, const SessionProblem& b) {
+  if (a.typedNames || b.typedNames) return a.typedNames == b.typedNames;
   if (a.problem.LastVar != b.problem.LastVar || a.problem.F.last() != b.problem.F.last()) return false;
   for (Long k = 0; k <= a.problem.LastVar; ++k)
     if (!haveSameVariable(a, b, k)) return false;
@@ -120,6 +138,7 @@ bool haveSameWork(const SessionProblem& a, const SessionProblem& b) {
 std::string keptPair(const std::string& folder) { return folder + "/problem"; }
 
 void writeKept(const SessionProblem& kept, const std::string& folder, std::int64_t when, FileSteps& steps) {
+  if (kept.typedNames) return writeText(descriptionIn(folder), textOf(descriptionOf(*kept.typedNames, when)), steps);
   Problem problem = kept.problem;
   Fit fit = kept.fit;
   salvageSpecs(problem, fit, kept.fields);
@@ -146,8 +165,12 @@ SessionProblem readKept(const std::string& folder) {
   const std::string path = descriptionIn(folder);
   const json root = readJson(path);
   const JsonItem item(root, "", path);
+  if (root.contains("number")) return problemOfTypedNames(item);
   OpenedProblem opened = openProblem(keptPair(folder));
-  SessionProblem kept{std::move(opened.problem), std::move(opened.fit), std::move(opened.fields), {}, {}};
+  SessionProblem kept;
+  kept.problem = std::move(opened.problem);
+  kept.fit = std::move(opened.fit);
+  kept.fields = std::move(opened.fields);
   kept.file = item.member("file").text();
   if (!root.contains("variables")) return kept;
   const JsonItem variables = item.member("variables");
@@ -164,6 +187,7 @@ KeptDescription readDescription(const std::string& folder) {
   description.file = item.member("file").text();
   description.points = static_cast<std::uint64_t>(item.member("points").number());
   description.when = static_cast<std::int64_t>(item.member("when").number());
+  if (root.contains("systemRun")) description.systemRun = item.member("systemRun").text();
   const bool isPair = root.contains("names");
   const JsonItem names = item.member(isPair ? "names" : "variables");
   for (std::size_t k = 0; k < names.count(); ++k)

@@ -7,7 +7,9 @@
 #include "formats/replaced_file.h"
 #include "formats/whole_text.h"
 #include "formats/work_names.h"
+#include "platform/crash_note.h"
 #include "platform/private_folder.h"
+#include "platform/system_run.h"
 #include "runtime/run_time_error.h"
 
 namespace tavimor {
@@ -17,12 +19,18 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr const char* kEnd = "/end";
-constexpr const char* kClosed = "closed\n";
-constexpr const char* kRunTimeError = "run-time error\n";
 
 void putInPlace(const std::string& folder, const std::string& place, FileSteps& steps) {
   if (!steps.replace(folder, place)) throw fileError(errno, place);
   steps.flushFolder(folderOf(place));
+}
+
+std::string noteIn(const std::string& sessionFolder) {
+  try {
+    return wholeText(sessionFolder + kEnd);
+  } catch (const RunTimeError&) {
+    return {};
+  }
 }
 
 }  // namespace
@@ -31,14 +39,27 @@ std::string sessionsFolder(const std::string& stateFolder) { return stateFolder 
 
 std::string sessionLock(const std::string& sessionFolder) { return sessionFolder + ".lock"; }
 
-SessionEnd sessionEnd(const std::string& sessionFolder) {
-  try {
-    const std::string text = wholeText(sessionFolder + kEnd);
-    if (text == kClosed) return SessionEnd::Closed;
-    return text == kRunTimeError ? SessionEnd::RunTimeError : SessionEnd::CutShort;
-  } catch (const RunTimeError&) {
-    return SessionEnd::CutShort;
+std::string noteOf(SessionEnd end) {
+  switch (end) {
+    case SessionEnd::Closed: return "closed\n";
+    case SessionEnd::ToldToEnd: return "told to end\n";
+    case SessionEnd::RunTimeError: return "run-time error\n";
+    case SessionEnd::Crashed: return kCrashNote;
+    case SessionEnd::Unknown:
+    case SessionEnd::Killed:
+    case SessionEnd::SystemRestarted: break;
   }
+  return {};
+}
+
+SessionEnd sessionEnd(const std::string& sessionFolder, const std::string& systemRun) {
+  const std::string note = noteIn(sessionFolder);
+  for (const SessionEnd end :
+       {SessionEnd::Closed, SessionEnd::ToldToEnd, SessionEnd::RunTimeError, SessionEnd::Crashed})
+    if (note == noteOf(end)) return end;
+  const std::string now = tavimor::systemRun();
+  if (systemRun.empty() || now.empty()) return SessionEnd::Unknown;
+  return systemRun == now ? SessionEnd::Killed : SessionEnd::SystemRestarted;
 }
 
 void requirePrivateFolder(const std::string& path) {
@@ -59,7 +80,9 @@ KeptSession::KeptSession(std::string stateFolder, FileSteps& steps)
     : stateFolder_(std::move(stateFolder)), steps_(steps) {}
 
 KeptSession::~KeptSession() {
-  if (lock_ != nullptr && number_ == 0) removeFolder(folder_);
+  if (lock_ == nullptr) return;
+  setCrashNote({});
+  if (number_ == 0) removeFolder(folder_);
 }
 
 bool KeptSession::hasKept() const {
@@ -88,6 +111,7 @@ void KeptSession::lockOwnName() {
     }
     folder_ = std::move(folder);
     lock_ = std::move(lock);
+    setCrashNote(folder_ + kEnd);
     return;
   }
 }
@@ -115,12 +139,11 @@ void KeptSession::forget() {
 }
 
 void KeptSession::noteEnd(SessionEnd end) {
-  if (!hasKept() || end == SessionEnd::CutShort) return;
+  if (!hasKept()) return;
   const std::string path = folder() + kEnd;
   steps_.remove(path);
   FileHandle file = steps_.create(path, Access::Private);
-  if (!file || !steps_.write(file.get(), end == SessionEnd::Closed ? kClosed : kRunTimeError) ||
-      !steps_.flush(file.get()) || !steps_.close(std::move(file)))
+  if (!file || !steps_.write(file.get(), noteOf(end)) || !steps_.flush(file.get()) || !steps_.close(std::move(file)))
     throw fileError(errno, path);
 }
 

@@ -11,9 +11,11 @@
 
 namespace tavimor {
 
-/// How a session that has left an unsaved problem came to its end; Cut short where nobody could say so any more:
-/// killed, crashed, without power.
-enum class SessionEnd { CutShort, Closed, RunTimeError };
+/// How a session that has left an unsaved problem came to its end. Closed, ToldToEnd (from outside: a log-off, for
+/// instance), RunTimeError and Crashed it has said itself. One that could say nothing was killed, or met what it could
+/// not even note, where the system has run on since; where the system was started anew since, that may have been the
+/// reason or not; Unknown where the system cannot tell one from the other.
+enum class SessionEnd { Unknown, Killed, SystemRestarted, Crashed, RunTimeError, ToldToEnd, Closed };
 
 /// The place of a living session in the user's state folder:
 ///
@@ -21,7 +23,7 @@ enum class SessionEnd { CutShort, Closed, RunTimeError };
 ///   sessions/NAME/N          the unsaved problem, complete; the highest N is the one that holds (see writeKept)
 ///   sessions/NAME/new        the next one while it is written
 ///   sessions/NAME/replaced   a pair on its way to the replaced ones (see ReplacedPair)
-///   sessions/NAME/end        how the session has ended, where that could be said
+///   sessions/NAME/end        how the session has ended, where that could be said: a line of noteOf
 ///
 /// Nothing is made before there is something to keep. Folders and files are their owner's alone; links are not
 /// followed, and what is another user's is refused. May be used from several threads. Errors: a RunTimeError with the
@@ -41,7 +43,7 @@ class KeptSession {
   /// There is nothing to restore any more: the problem was saved.
   void forget();
 
-  /// Says how the session ends.
+  /// Says how the session ends, in the words of noteOf.
   void noteEnd(SessionEnd end);
 
   bool hasKept() const;
@@ -70,8 +72,11 @@ std::string sessionsFolder(const std::string& stateFolder);
 /// The lock of the session whose folder this is.
 std::string sessionLock(const std::string& sessionFolder);
 
-/// How the session of this folder has ended.
-SessionEnd sessionEnd(const std::string& sessionFolder);
+/// The line with which a session says how it ends; empty for an end that no session can tell of.
+std::string noteOf(SessionEnd end);
+
+/// How the session of this folder has ended. `systemRun` is the run of the system that it has kept its problem in.
+SessionEnd sessionEnd(const std::string& sessionFolder, const std::string& systemRun);
 
 /// Makes a private folder. Errors: a RunTimeError with the path.
 void requirePrivateFolder(const std::string& path);

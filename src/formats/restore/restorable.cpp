@@ -30,10 +30,10 @@ std::vector<std::string> namesIn(const std::string& folder) {
   return names;
 }
 
-std::optional<Restorable> restorableIn(const std::string& folder, KeptKind kind, SessionEnd end) {
+std::optional<Restorable> restorableIn(const std::string& folder, KeptKind kind) {
   if (!isOwnFolder(folder)) return std::nullopt;
   try {
-    return Restorable{kind, folder, readDescription(folder), end};
+    return Restorable{kind, folder, readDescription(folder), SessionEnd::Unknown};
   } catch (const Failure&) {
     return std::nullopt;
   }
@@ -49,7 +49,10 @@ std::optional<Restorable> leftBy(const std::string& session) {
     return std::make_tuple(a.size(), a) > std::make_tuple(b.size(), b);
   });
   for (const std::string& name : names)
-    if (auto left = restorableIn(session + '/' + name, KeptKind::Unsaved, sessionEnd(session))) return left;
+    if (auto left = restorableIn(session + '/' + name, KeptKind::Unsaved)) {
+      left->end = sessionEnd(session, left->description.systemRun);
+      return left;
+    }
   return std::nullopt;
 }
 
@@ -89,8 +92,7 @@ std::vector<Restorable> replacedPairs(const std::string& stateFolder) {
   const std::string replaced = replacedFolder(stateFolder);
   for (const std::string& file : namesIn(replaced))
     for (const std::string& time : namesIn(replaced + '/' + file))
-      if (auto pair = restorableIn(replaced + '/' + file + '/' + time, KeptKind::Replaced, SessionEnd::Closed))
-        all.push_back(*pair);
+      if (auto pair = restorableIn(replaced + '/' + file + '/' + time, KeptKind::Replaced)) all.push_back(*pair);
   std::sort(all.begin(), all.end(), [](const Restorable& a, const Restorable& b) {
     return a.description.file != b.description.file ? a.description.file < b.description.file : a.folder > b.folder;
   });

@@ -15,7 +15,7 @@ struct Restorable {
   KeptKind kind = KeptKind::Unsaved;
   std::string folder;
   KeptDescription description;
-  SessionEnd end = SessionEnd::CutShort;  // Unsaved: how its session has ended
+  SessionEnd end = SessionEnd::Unknown;  // Unsaved: how its session has ended
 };
 
 /// All that can be had again: first what dead sessions left unsaved, the latest first; then the replaced pairs, those

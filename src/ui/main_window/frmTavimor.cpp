@@ -47,7 +47,7 @@ void frmTavimor::Form_Load() {
 
 void frmTavimor::Form_Unload() {
   RestoreDecimalSeparator();
-  keepForRestore(SessionEnd::Closed);
+  keepForRestore(endIsRequested() ? SessionEnd::ToldToEnd : SessionEnd::Closed);
   keeper_.reset();
   const QVector<Form*> forms = openForms();
   for (Form* form : forms) form->unload();

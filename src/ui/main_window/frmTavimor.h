@@ -142,6 +142,7 @@ class frmTavimor : public Form, private MainControls {
   void mnuRestore_Click();
   void restore(const Restorable& chosen);
   void showRestored(SessionProblem kept);
+  void showTypedNames(const TypedNames& typed);
 
   // Formulas
   void mnuExport_Click();

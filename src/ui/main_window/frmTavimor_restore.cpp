@@ -6,6 +6,7 @@
 #include "ui/controls/message_box.h"
 #include "ui/controls/state_folder.h"
 #include "ui/main_window/frmTavimor.h"
+#include "ui/main_window/step_recorder.h"
 #include "ui/restore/restore_dialog.h"
 
 namespace tavimor {
@@ -27,16 +28,21 @@ void frmTavimor::keepUnsavedWork() {
   });
 }
 
-// As soon as the names are given there is something to lose.
+// From the first letter of a name on there is something to lose.
 std::optional<SessionProblem> frmTavimor::sessionProblem() const {
-  if (!mnuSave->isEnabled()) return std::nullopt;
+  const Entries entries = steps_->entries();
+  if (entries.stage != Stage::NamesGiven && entries.txtVarNams.empty()) return std::nullopt;
   SessionProblem now;
+  if (entries.stage != Stage::NamesGiven) {
+    now.typedNames = {entries.txtOrder, entries.txtVarNams, entries.stage == Stage::NumberGiven};
+    return now;
+  }
   now.problem = model_;
   static_cast<Statistics&>(now.fit) = model_;
   now.fit.FitDone = model_.FitDone;
   now.fit.Coef = model_.Coef;
-  now.fields = specFields();
-  for (std::size_t k = 0; k < blocks.size(); ++k) now.numberIsOpen[k] = blocks[k].txtPoints->isEnabledTo(fraSpecs);
+  now.fields = entries.fields;
+  for (std::size_t k = 0; k < blocks.size(); ++k) now.numberIsOpen[k] = !entries.isNumberFixed[k];
   now.file = model_.FileName;
   return now;
 }
@@ -64,8 +70,13 @@ void frmTavimor::restoreFolder(const std::string& folder) {
 
 void frmTavimor::restore(const Restorable& chosen) {
   try {
-    showRestored(readKept(chosen.folder));
+    SessionProblem kept = readKept(chosen.folder);
+    if (kept.typedNames)
+      showTypedNames(*kept.typedNames);
+    else
+      showRestored(std::move(kept));
     keeper_->noteRestored(chosen);
+    stbStatus->showResult(QStringLiteral("Restored, and not saved yet"));
   } catch (const Failure& failure) {
     showWarning(
         QStringLiteral("The problem cannot be restored:\n\n%1\n\n%2")
@@ -86,7 +97,19 @@ void frmTavimor::showRestored(SessionProblem kept) {
     block.txtTerms->setText(QString::fromStdString(kept.fields[k].txtTerms));
     block.txtPoints->setEnabled(kept.numberIsOpen[k]);
   }
-  stbStatus->showResult(QStringLiteral("Restored, and not saved yet"));
+}
+
+// As if it were typed: the user goes on where that was left.
+void frmTavimor::showTypedNames(const TypedNames& typed) {
+  txtOrder->setText(QString::fromStdString(typed.txtOrder));
+  bool isRefused = !typed.isNumberGiven;
+  if (!isRefused) txtOrder_Validate(isRefused);
+  if (!isRefused) {
+    showStage(Stage::NumberGiven);
+    LoadObjects();
+    steps_->settle();
+  }
+  txtVarNams->setText(QString::fromStdString(typed.txtVarNams));
 }
 
 }  // namespace tavimor

@@ -29,6 +29,8 @@ QString namesText(const std::vector<std::string>& names) {
   return all.join(QStringLiteral(", "));
 }
 
+QString pointsText(std::uint64_t points) { return points == 0 ? QString() : QString::number(points); }
+
 QString whenText(std::int64_t seconds) {
   return QLocale().toString(QDateTime::fromSecsSinceEpoch(seconds), QLocale::ShortFormat);
 }
@@ -37,10 +39,33 @@ QString whyText(const Restorable& restorable) {
   if (restorable.kind == KeptKind::Replaced) return QStringLiteral("replaced by a save");
   switch (restorable.end) {
     case SessionEnd::Closed: return QStringLiteral("closed without saving");
+    case SessionEnd::ToldToEnd: return QStringLiteral("told to end");
     case SessionEnd::RunTimeError: return QStringLiteral("ended by a run-time error");
-    case SessionEnd::CutShort: break;
+    case SessionEnd::Crashed: return QStringLiteral("crashed");
+    case SessionEnd::Killed: return QStringLiteral("killed");
+    case SessionEnd::SystemRestarted: return QStringLiteral("before a restart");
+    case SessionEnd::Unknown: break;
   }
-  return QStringLiteral("killed or crashed");
+  return QStringLiteral("cut short");
+}
+
+// What is known, where a word in the list says too little or too much.
+QString whyInFull(const Restorable& restorable) {
+  if (restorable.kind == KeptKind::Replaced) return {};
+  switch (restorable.end) {
+    case SessionEnd::ToldToEnd: return QStringLiteral("Told to end from outside, by a log-off for instance");
+    case SessionEnd::Crashed: return QStringLiteral("Ended by a fault of the program");
+    case SessionEnd::Killed:
+      return QStringLiteral(
+          "Gone without a word: killed, for want of memory perhaps, or by a fault that it could not note");
+    case SessionEnd::SystemRestarted:
+      return QStringLiteral("Gone without a word, and the computer was started anew since: it may have lost its power");
+    case SessionEnd::Unknown:
+      return QStringLiteral("Gone without a word: killed, crashed or without power, which is not known");
+    case SessionEnd::Closed:
+    case SessionEnd::RunTimeError: break;
+  }
+  return {};
 }
 
 }  // namespace
@@ -76,10 +101,10 @@ void RestoreDialog::fill() {
 
 void RestoreDialog::addItem(std::size_t n) {
   const Restorable& one = all_[n];
-  auto* item =
-      new QTreeWidgetItem({fileNameOf(one.description.file), namesText(one.description.names),
-                           QString::number(one.description.points), whenText(one.description.when), whyText(one)});
+  auto* item = new QTreeWidgetItem({fileNameOf(one.description.file), namesText(one.description.names),
+                                    pointsText(one.description.points), whenText(one.description.when), whyText(one)});
   item->setToolTip(kProblem, shown(one.description.file));
+  item->setToolTip(kWhy, whyInFull(one));
   item->setTextAlignment(kPoints, Qt::AlignRight | Qt::AlignVCenter);
   item->setData(kProblem, Qt::UserRole, static_cast<qulonglong>(n));
   if (one.kind == KeptKind::Unsaved) return lstRestore->addTopLevelItem(item);

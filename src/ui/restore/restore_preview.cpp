@@ -24,6 +24,9 @@ QString firstValues(const Table4& function) {
 }  // namespace
 
 QString previewOf(const SessionProblem& kept) {
+  if (kept.typedNames)
+    return QStringLiteral("Only the names of the variables had been typed:\n%1")
+        .arg(QString::fromStdString(kept.typedNames->txtVarNams));
   QStringList lines;
   const auto add = [&lines](const std::string& line) { lines << QString::fromStdString(line); };
   for (Long k = 0; k <= kept.problem.LastVar; ++k) variableLines(kept.problem, k, add);

@@ -6,6 +6,7 @@
 #include <utility>
 #include <vector>
 
+#include "platform/crash_note.h"
 #include "platform/end_request.h"
 #include "platform/held_signals.h"
 #include "runtime/run_time_error.h"
@@ -129,6 +130,7 @@ int main(int argc, char** argv) {
   if (arguments.picture) return answer(*arguments.picture);
 #endif
   const int endRequests = watchEndRequests();
+  watchCrashes();
   std::optional<DisplayCheck> displayCheck(std::in_place);
   Application application(argc, argv);
   displayCheck.reset();

@@ -3,15 +3,24 @@
 #include <gmock/gmock.h>
 
 #include <filesystem>
+#include <nlohmann/json.hpp>
 
 #include "formats/restore/restorable.h"
 #include "model/value_lists.h"
+#include "platform/crash_note.h"
+#include "platform/system_run.h"
 #include "support/child_process.h"
 #include "support/expect_error.h"
 #include "support/faulty_steps.h"
 #include "support/files.h"
 #include "support/stored_problems.h"
 #include "support/temporary_folder.h"
+
+#ifndef _WIN32
+#include <sys/resource.h>
+
+#include <csignal>
+#endif
 
 namespace tavimor {
 namespace {
@@ -50,6 +59,21 @@ class KeptSessionTest : public test::FolderTest {
   std::string state() const { return folder / "state/tavimor"; }
   std::vector<Restorable> all() const { return restorableProblems(state()); }
 
+  // How a session has ended that could say nothing.
+  static SessionEnd withoutAWord() { return systemRun().empty() ? SessionEnd::Unknown : SessionEnd::Killed; }
+
+  // Leaves a problem that was kept in another run of the system, or in one that had no name.
+  void leaveFromRun(const nlohmann::json& run) {
+    {
+      KeptSession session(state(), quick);
+      session.keep(marked(1));
+    }
+    const std::string path = all().at(0).folder + "/description.json";
+    nlohmann::json description = nlohmann::json::parse(test::readBytes(path));
+    description["systemRun"] = run;
+    test::writeBytes(path, description.dump());
+  }
+
   FaultySteps quick;
 };
 
@@ -67,14 +91,14 @@ TEST_F(KeptSessionTest, WhatItKeptCanBeHadAgainWhenItIsDead) {
   }
   ASSERT_THAT(all(), SizeIs(1));
   EXPECT_EQ(markOf(all()[0].folder), 2);
-  EXPECT_EQ(all()[0].end, SessionEnd::CutShort);
+  EXPECT_EQ(all()[0].end, withoutAWord());
   EXPECT_THAT(all()[0].description.names, ElementsAre("x", "y"));
   EXPECT_EQ(all()[0].description.points, 6u);
   EXPECT_LE(secondsNow() - all()[0].description.when, 60);
 }
 
 TEST_F(KeptSessionTest, TellsHowItHasEnded) {
-  for (const SessionEnd end : {SessionEnd::Closed, SessionEnd::RunTimeError}) {
+  for (const SessionEnd end : {SessionEnd::Closed, SessionEnd::ToldToEnd, SessionEnd::RunTimeError}) {
     {
       KeptSession session(state(), quick);
       session.keep(marked(1));
@@ -85,6 +109,31 @@ TEST_F(KeptSessionTest, TellsHowItHasEnded) {
     removeRestorable(all()[0]);
     EXPECT_THAT(all(), IsEmpty());
   }
+}
+
+TEST_F(KeptSessionTest, OneThatWasThereBeforeTheSystemStartedAnewWasNotJustKilled) {
+  leaveFromRun("another run");
+  EXPECT_EQ(all().at(0).end, systemRun().empty() ? SessionEnd::Unknown : SessionEnd::SystemRestarted);
+}
+
+TEST_F(KeptSessionTest, WhereTheRunOfTheSystemIsNotKnownTheEndIsNot) {
+  leaveFromRun("");
+  EXPECT_EQ(all().at(0).end, SessionEnd::Unknown);
+}
+
+TEST_F(KeptSessionTest, NumberAndNamesAreKeptBeforeThereIsAProblem) {
+  SessionProblem before;
+  before.typedNames = {"2", "temp", true};
+  {
+    KeptSession session(state(), quick);
+    session.keep(before);
+  }
+  ASSERT_THAT(all(), SizeIs(1));
+  EXPECT_THAT(all()[0].description.names, ElementsAre("temp"));
+  EXPECT_EQ(all()[0].description.points, 0u);
+  EXPECT_EQ(readKept(all()[0].folder).typedNames, before.typedNames);
+  EXPECT_TRUE(haveSameWork(readKept(all()[0].folder), before));
+  EXPECT_FALSE(haveSameWork(readKept(all()[0].folder), marked(1)));
 }
 
 TEST_F(KeptSessionTest, WhatWasSavedIsNotRestored) {
@@ -184,6 +233,21 @@ TEST_F(KeptSessionTest, ALinkInThePlaceOfTheFolderIsNotFollowed) {
 
 #ifndef _WIN32
 
+TEST_F(KeptSessionTest, ACrashIsTold) {
+  EXPECT_EQ(test::signalThatEnds([&] {
+              const rlimit noCore{0, 0};
+              setrlimit(RLIMIT_CORE, &noCore);
+              watchCrashes();
+              KeptSession session(state(), quick);
+              session.keep(marked(1));
+              std::abort();
+            }),
+            SIGABRT);
+  ASSERT_THAT(all(), SizeIs(1));
+  EXPECT_EQ(all()[0].end, SessionEnd::Crashed);
+  EXPECT_EQ(markOf(all()[0].folder), 1);
+}
+
 TEST_F(KeptSessionTest, OneThatIsKilledAtAnyStepLeavesAWholeProblem) {
   FaultySteps counter;
   {
@@ -202,7 +266,7 @@ TEST_F(KeptSessionTest, OneThatIsKilledAtAnyStepLeavesAWholeProblem) {
               }),
               test::kKilled);
     ASSERT_THAT(all(), SizeIs(1));
-    EXPECT_EQ(all()[0].end, SessionEnd::CutShort);
+    EXPECT_EQ(all()[0].end, withoutAWord());
     EXPECT_THAT(markOf(all()[0].folder), testing::AnyOf(1, 2));
     EXPECT_TRUE(hasUnsavedProblems(state()));
   }

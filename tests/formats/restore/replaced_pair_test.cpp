@@ -97,6 +97,18 @@ TEST_F(ReplacedPairTest, AllTogetherStayWithinTheLimit) {
   EXPECT_THAT(marks(), SizeIs(3));
 }
 
+TEST_F(ReplacedPairTest, TheOldestGoesBeyond256MB) {
+  constexpr std::uint64_t kHundredMB = 100 << 20;
+  for (int mark = 1; mark <= 4; ++mark) save(mark);
+  const std::vector<Restorable> before = restorableProblems(state());
+  ASSERT_THAT(before, SizeIs(3));
+  for (const Restorable& one : before) fs::resize_file(keptPair(one.folder) + ".dat", kHundredMB);
+  save(5);
+  EXPECT_THAT(restorableProblems(state()), SizeIs(3));
+  EXPECT_TRUE(fs::exists(before[1].folder));
+  EXPECT_FALSE(fs::exists(before[2].folder));
+}
+
 TEST_F(ReplacedPairTest, ASaveThatFailsKeepsNothing) {
   save(1);
   { ReplacedPair replaced(session, folder / "p"); }
