@@ -6,15 +6,24 @@
 #include <new>
 #include <utility>
 
+#include "model/value_lists.h"
+
 namespace tavimor {
 
 namespace {
 
 using namespace std::chrono_literals;
 
-constexpr auto kDelay = 1500ms;      // from a change to its writing: it is on the disk within two seconds
-constexpr int kRestPerWriting = 20;  // the writing takes no more than one part in so many of the time
+constexpr auto kDelay = 1000ms;         // from a change to its writing: it is on a slow disk within two seconds
+constexpr std::size_t kLarge = 50'000;  // numbers: fewer are written in no time but that of the disk
+constexpr int kRestPerWriting = 20;     // writing a large one takes no more than one part in so many of the time
 constexpr auto kWatchInterval = 100ms;
+
+bool isLarge(const Problem& problem) {
+  std::size_t numbers = problem.F.size();
+  for (Long k = 0; k <= problem.LastVar; ++k) numbers += valueList(problem, k).size();
+  return numbers >= kLarge;
+}
 
 }  // namespace
 
@@ -45,8 +54,10 @@ void ProblemKeeper::lookLater() {
 }
 
 void ProblemKeeper::look() {
-  if (!writer_.isIdle()) return lookLater();
-  keepUnlessSaved();
+  if (writer_.isIdle())
+    keepUnlessSaved();
+  else
+    look_.start(kWatchInterval);
 }
 
 // Where there is no memory for a copy, the user goes on without one.
@@ -66,7 +77,7 @@ void ProblemKeeper::keepUnlessSaved(std::optional<SessionProblem> now) {
   }
   if (kept_ && haveSameWork(*now, *kept_)) return;
   kept_ = std::make_shared<const SessionProblem>(std::move(*now));
-  handedOver_ = Clock::now();
+  handedOver_ = isLarge(kept_->problem) ? Clock::now() : Clock::time_point();
   writer_.keep(kept_);
   watch_.start(kWatchInterval);
 }

@@ -14,10 +14,10 @@ namespace tavimor {
 
 /// Keeps the problem of a main window where it can be restored from, for as long as it has changes that are not saved.
 ///
-/// Whatever the user does may have changed something: a second and a half after it the problem is compared with the one
-/// that was saved and the one that was kept, and handed to a thread that writes it, so that a program that is killed
-/// loses two seconds at most. Writing takes 5 % of the time at most: a problem that takes long to write is kept less
-/// often. What cannot be kept is told once.
+/// Whatever the user does may have changed something: a second after it the problem is compared with the one that was
+/// saved and the one that was kept, and handed to a thread that writes it, so that a program that is killed loses two
+/// seconds at most. Writing a large problem takes 5 % of the time at most: it is kept less often. What cannot be kept
+/// is told once.
 class ProblemKeeper : public QObject {
   Q_OBJECT
 
@@ -63,7 +63,7 @@ class ProblemKeeper : public QObject {
   std::optional<SessionProblem> saved_;
   std::shared_ptr<const SessionProblem> kept_;
   std::optional<Restorable> restored_;
-  Clock::time_point handedOver_;
+  Clock::time_point handedOver_;  // a large problem; a small one is kept as often as it changes
   bool isTold_ = false;
 };
 
