@@ -84,9 +84,17 @@ void endWithoutRoom(const Problem& problem, Long variable, const FitOptions& opt
   if (!singular) outcome.ErrNumber = static_cast<Long>(ErrorNumber::SubscriptOutOfRange);
 }
 
+// One chain of additions, which waits for each of them. Where the right-hand side takes a single thread, that of one
+// variable, it is made beside it.
+std::future<double> sumGivenBeside(const Problem& problem, const FitOptions& options) {
+  constexpr std::size_t pointsWorthAThread = 500000;
+  const auto sum = [&problem] { return sumOfGiven(problem.F); };
+  const bool pays = options.threads != 1 && problem.LastVar == 0 && problem.F.size() > pointsWorthAThread;
+  return pays ? startBeside(sum) : std::async(std::launch::deferred, sum);
+}
+
 // The statistics, and the fitted values that they rest on where these are kept.
-StatisticsOutcome statisticsOf(const Problem& problem, const FitOptions& options, Fit& fit) {
-  const double sumGiven = sumOfGiven(problem.F);
+StatisticsOutcome statisticsOf(const Problem& problem, double sumGiven, const FitOptions& options, Fit& fit) {
   const auto withStrips = [&](const FittedStrip& strips) {
     return fitStatistics(problem.F, strips, sumGiven, problem.NumGridPoints, fit, options);
   };
@@ -103,13 +111,14 @@ void fitInto(const Problem& problem, const FitOptions& options, FitOutcome& outc
   for (Long k = 0; k <= problem.LastVar; ++k) requireNormalMatrix(problem.Degree[k]);
   Fit& fit = outcome.fit;
   std::vector<std::future<Gram>> matrices = normalMatrices(problem, options);
+  std::future<double> sumGiven = sumGivenBeside(problem, options);
   fit.Coef = rightHandSide(problem, options);
   if (const auto singular = solve(std::move(matrices), options, fit.Coef)) {
     outcome.end = FitEnd::Singular;
     outcome.variable = *singular;
     return;
   }
-  const StatisticsOutcome statistics = statisticsOf(problem, options, fit);
+  const StatisticsOutcome statistics = statisticsOf(problem, sumGiven.get(), options, fit);
   static_cast<Statistics&>(fit) = statistics.figures;
   outcome.ErrNumber = statistics.ErrNumber;
   fit.FitDone = true;
