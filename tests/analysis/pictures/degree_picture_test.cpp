@@ -1,17 +1,9 @@
 #include "analysis/pictures/degree_picture.h"
 
-#include <gmock/gmock.h>
-
-#include "analysis/pictures/pictured_fits.h"
+#include "analysis/pictures/pictured_test.h"
 
 namespace tavimor {
 namespace {
-
-using test::pictured;
-using test::roughProblem;
-using testing::HasSubstr;
-using testing::IsEmpty;
-using testing::SizeIs;
 
 std::vector<DegreeCombination> combinationsOf(const ShownFit& fit) {
   const SecondOpinion& opinion = fit.analysis->opinion;

@@ -1,18 +1,11 @@
 #include "analysis/pictures/residual_pictures.h"
 
-#include <gmock/gmock.h>
-
 #include <numeric>
 
-#include "analysis/pictures/pictured_fits.h"
+#include "analysis/pictures/pictured_test.h"
 
 namespace tavimor {
 namespace {
-
-using test::pictured;
-using test::roughProblem;
-using testing::HasSubstr;
-using testing::SizeIs;
 
 TEST(ResidualPictures, AreOfTheResidualsOfTheExactSolution) {
   const Dimension model = roughProblem(2);

@@ -1,18 +1,10 @@
 #include "analysis/pictures/section.h"
 
-#include <gmock/gmock.h>
-
 #include "analysis/inference.h"
-#include "analysis/pictures/pictured_fits.h"
+#include "analysis/pictures/pictured_test.h"
 
 namespace tavimor {
 namespace {
-
-using test::pictured;
-using test::roughProblem;
-using testing::HasSubstr;
-using testing::IsEmpty;
-using testing::SizeIs;
 
 SectionChoice along(Long variable, const PerVariable<double>& at) {
   SectionChoice choice;

@@ -1,17 +1,9 @@
 #include "analysis/pictures/surface_map.h"
 
-#include <gmock/gmock.h>
-
-#include "analysis/pictures/pictured_fits.h"
+#include "analysis/pictures/pictured_test.h"
 
 namespace tavimor {
 namespace {
-
-using test::pictured;
-using test::roughProblem;
-using testing::HasSubstr;
-using testing::IsEmpty;
-using testing::SizeIs;
 
 MapChoice over(MapOf of, Long x, Long y, const PerVariable<double>& at = {}) { return {of, x, y, at}; }
 
