@@ -25,6 +25,7 @@ void MapPage::takeProblem() {
 void MapPage::offerSecond() {
   const Long x = chosen(*cboX);
   offerVariables(*cboY, [=](Long k) { return k != x; });
+  for (QComboBox* list : {cboX, cboY}) list->setEnabled(cboY->count() > 0);
 }
 
 void MapPage::draw() {

@@ -72,11 +72,21 @@ void drawContours(Panel& panel, const Theme& theme, const std::vector<ContourLin
       panel.text(line.x[middle], line.y[middle], shown(shortNumber(line.level)));
 }
 
+// Nothing for a grid point where other values are held.
+std::optional<PicturePoint> placeInMap(const Problem& problem, const MapChoice& choice, std::size_t number) {
+  const PerVariable<Long> index = gridIndexAt(problem.F.last(), number);
+  const auto valueOf = [&](Long k) { return gridValues(problem, k)[static_cast<std::size_t>(index[k])]; };
+  for (Long k = 0; k <= problem.LastVar; ++k)
+    if (k != choice.x && k != choice.y && valueOf(k) != choice.at[k]) return std::nullopt;
+  return PicturePoint{valueOf(choice.x), valueOf(choice.y), number};
+}
+
 void drawMap(Canvas& canvas, const Problem& problem, const MapChoice& choice, const SurfaceMap& map) {
   const ShownRange x{map.sheet.x.front(), map.sheet.x.back()}, y{map.sheet.y.front(), map.sheet.y.back()};
   Panel& panel = canvas.panel(0, 0, {nameOf(problem, choice.x), x}, {nameOf(problem, choice.y), y});
   canvas.colours(panel, map.sheet, map.scale, map.range, shown(mapQuantity(choice.of)));
   panel.points(map.points, map.scale == ColourScale::Values ? QColor(255, 255, 255, 170) : QColor(0, 0, 0, 120), 3.0);
+  panel.findMore([&problem, choice](std::size_t number) { return placeInMap(problem, choice, number); });
   drawContours(panel, canvas.theme(), map.contours);
 }
 
@@ -95,11 +105,26 @@ ShownRange rangeOfX(const std::vector<PicturePoint>& points) {
 const QString kResidual = QStringLiteral("residual");
 constexpr int kFewNumbers = 3;  // along an axis of a small panel
 
-void drawCloud(Canvas& canvas, int row, int column, const QString& name, const std::vector<PicturePoint>& points) {
+Panel& drawCloud(Canvas& canvas, int row, int column, const QString& name, const std::vector<PicturePoint>& points) {
   constexpr std::size_t kMany = 2000;
   Panel& panel = canvas.panel(row, column, {name, rangeOfX(points), kFewNumbers}, {kResidual, rangeOfY(points)});
   panel.points(points, faint(canvas.theme().curve(0), points.size() > kMany ? 120 : 220),
                points.size() > kMany ? 2.5 : 5.0);
+  return panel;
+}
+
+void drawClouds(Canvas& canvas, const ShownFit& fit, const ResidualPictures& residuals, Long k) {
+  const auto residualOf = [&fit](std::size_t number) { return fit.residual.data()[number]; };
+  drawCloud(canvas, 0, 0, QStringLiteral("fitted value"), residuals.againstFitted)
+      .findMore([&fit, residualOf](std::size_t number) {
+        const double residual = residualOf(number);
+        return PicturePoint{fit.problem().F.data()[number] - residual, residual, number};
+      });
+  drawCloud(canvas, 0, 1, nameOf(fit.problem(), k), residuals.againstVariable[k])
+      .findMore([&fit, residualOf, k](std::size_t number) {
+        const auto i = static_cast<std::size_t>(gridIndexAt(fit.problem().F.last(), number)[k]);
+        return PicturePoint{gridValues(fit.problem(), k)[i], residualOf(number), number};
+      });
 }
 
 void drawHistogram(Canvas& canvas, const Histogram& histogram) {
@@ -191,8 +216,10 @@ void showMap(Picture& picture, const std::shared_ptr<const ShownFit>& fit, const
   const Problem& problem = fit->problem();
   PerVariable<bool> isShown{};
   isShown[choice.x] = isShown[choice.y] = true;
-  std::string title = mapQuantity(choice.of) + " over " + problem.VarName[choice.x];
-  title += " and " + problem.VarName[choice.y] + heldText(problem, choice.at, isShown);
+  std::string title = mapQuantity(choice.of);
+  if (choice.x != choice.y)
+    title += " over " + problem.VarName[choice.x] + " and " + problem.VarName[choice.y] +
+             heldText(problem, choice.at, isShown);
   title.front() = static_cast<char>(title.front() - 'a' + 'A');
   const QString text = shown(mapText(*fit, choice, map));
   const auto data = std::make_shared<const SurfaceMap>(std::move(map));
@@ -209,8 +236,7 @@ void showResiduals(Picture& picture, const std::shared_ptr<const ShownFit>& fit,
       canvas.message(text);
       return;
     }
-    drawCloud(canvas, 0, 0, QStringLiteral("fitted value"), residuals->againstFitted);
-    drawCloud(canvas, 0, 1, nameOf(fit->problem(), k), residuals->againstVariable[k]);
+    drawClouds(canvas, *fit, *residuals, k);
     drawHistogram(canvas, residuals->histogram);
     drawQuantiles(canvas, *residuals);
   });

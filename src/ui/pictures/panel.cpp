@@ -1,6 +1,5 @@
 #include "ui/pictures/panel.h"
 
-#include <algorithm>
 #include <cmath>
 
 #include "analysis/pictures/round_numbers.h"
@@ -163,12 +162,20 @@ void Panel::shade(double from, double to) {
   item->bottomRight->setCoords(inX(to), 1.0);
 }
 
+std::optional<PicturePoint> Panel::inAxes(const std::optional<std::size_t>& number) const {
+  if (!number) return std::nullopt;
+  for (const PicturePoint& point : points_)
+    if (point.number == *number) return point;
+  const std::optional<PicturePoint> hidden = placeOf_ ? placeOf_(*number) : std::nullopt;
+  if (!hidden) return std::nullopt;
+  return PicturePoint{inX(hidden->x), inY(hidden->y), hidden->number};
+}
+
 void Panel::mark(const std::optional<std::size_t>& number) {
   if (mark_ != nullptr) x_->parentPlot()->removeGraph(mark_);
   mark_ = nullptr;
-  const auto isMarked = [&](const PicturePoint& point) { return point.number == number; };
-  const auto point = std::find_if(points_.begin(), points_.end(), isMarked);
-  if (point == points_.end()) return;
+  const std::optional<PicturePoint> point = inAxes(number);
+  if (!point) return;
   mark_ = x_->parentPlot()->addGraph(x_, y_);
   mark_->setLineStyle(QCPGraph::lsNone);
   mark_->setScatterStyle(QCPScatterStyle(QCPScatterStyle::ssCircle, QPen(theme_.warning, 2.5), Qt::NoBrush, 14));

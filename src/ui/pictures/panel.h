@@ -3,6 +3,7 @@
 #include <qcustomplot.h>
 
 #include <QSharedPointer>
+#include <functional>
 #include <optional>
 #include <span>
 #include <vector>
@@ -35,8 +36,13 @@ class Panel {
   void text(double x, double y, const QString& text);
   /// A rectangle between two x over the whole height.
   void shade(double from, double to);
-  /// The point with this number, if it is among those drawn, in the place of the one marked before.
+  /// The point with this number in the place of the one marked before: where it is drawn, and else where the panel has
+  /// been told that it lies.
   void mark(const std::optional<std::size_t>& number);
+
+  /// Where points lie that are not drawn, as there are too many.
+  using PlaceOf = std::function<std::optional<PicturePoint>(std::size_t number)>;
+  void findMore(PlaceOf placeOf) { placeOf_ = std::move(placeOf); }
 
   double inX(double value) const;  // in the units of the axis
   double inY(double value) const;
@@ -56,6 +62,8 @@ class Panel {
   QCPAxis& yAxis() const { return *y_; }
 
  private:
+  std::optional<PicturePoint> inAxes(const std::optional<std::size_t>& number) const;
+
   QCPAxisRect* rect_;
   QCPAxis *x_, *y_;
   Theme theme_;
@@ -63,6 +71,7 @@ class Panel {
   int xExponent_, yExponent_;
   QCPRange homeX_, homeY_;
   std::vector<PicturePoint> points_;  // in the units of the axes
+  PlaceOf placeOf_;
   QCPGraph* mark_ = nullptr;
 };
 

@@ -83,6 +83,7 @@ TEST_F(MapPageTest, OffTheGridThereIsAFitButNoGivenValue) {
 TEST_F(MapPageTest, OfOneVariableSaysWhatItTakes) {
   openAt("pagMap", rough({9}));
   EXPECT_EQ(words(), "A map takes two variables.");
+  EXPECT_FALSE(inPage<QComboBox>("cboY").isEnabled());
 }
 
 TEST_F(MapPageTest, WhatIsShownIsKeptForTheNextWindow) {

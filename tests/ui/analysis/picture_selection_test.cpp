@@ -1,7 +1,9 @@
 #include <gmock/gmock.h>
 
 #include <QLabel>
+#include <QListView>
 
+#include "analysis/pictures/residual_pictures.h"
 #include "ui/controls/form.h"
 #include "ui/data_windows/frmFun.h"
 #include "ui/data_windows/frmVars.h"
@@ -125,6 +127,22 @@ TEST_F(PictureSelection, InAGridThatHasChangedMeanwhileNoPointIsOpened) {
   doubleClickAt(placeOf(6, 5));
   EXPECT_EQ(text.toStdString(), "The grid is not the one that was analysed: press Compute first.");
   EXPECT_EQ(Form::openForm<frmFun>(), nullptr);
+}
+
+class ManyPoints : public PicturePagesTest {};
+
+TEST_F(ManyPoints, OneIsMarkedWhereTooManyAreThereToBeDrawn) {
+  openAt("pagResiduals", rough({80, 80}));
+  auto& list = inPage<QListView>("lstLargest");
+  for (int row = 0; row < 5; ++row) {
+    QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, list.visualRect(list.model()->index(row, 0)).center());
+    EXPECT_THAT(marks().y, SizeIs(3)) << row;
+  }
+  const auto fit = shownFit();
+  const PerVariable<Long> wanted = gridIndexAt(model.F.last(), residualPictures(*fit).largest[4]);
+  show("pagMap");
+  EXPECT_THAT(marks().x, ElementsAre(static_cast<double>(wanted[0])));
+  EXPECT_THAT(marks().y, ElementsAre(static_cast<double>(wanted[1])));
 }
 
 }  // namespace
