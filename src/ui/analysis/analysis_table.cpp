@@ -111,9 +111,9 @@ QString ResultView::copiedText() const {
   return lines.join(QLatin1Char('\n')) + QLatin1Char('\n');
 }
 
-void ResultView::fitColumns() {
-  constexpr int kWidestTerm = 40;  // characters: a longer one is left out in the middle
-  const int widest = kWidestTerm * fontMetrics().averageCharWidth();
+// A longer text is left out in the middle.
+void ResultView::fitColumns(int most) {
+  const int widest = most * fontMetrics().averageCharWidth();
   resizeColumnsToContents();
   for (int column = 0; column < model()->columnCount(); ++column)
     setColumnWidth(column, std::min(columnWidth(column), widest));

@@ -62,8 +62,8 @@ class ResultView : public QTableView {
   void showTable(ResultTable& table);
   QString copiedText() const;
 
-  /// Columns as wide as what is on screen needs.
-  void fitColumns();
+  /// Columns as wide as what is on screen needs, but no wider than so many characters.
+  void fitColumns(int most = 40);
 };
 
 }  // namespace tavimor

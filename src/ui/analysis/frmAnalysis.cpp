@@ -13,7 +13,7 @@ namespace tavimor {
 
 namespace {
 
-constexpr QSize kInitialSize(860, 560);
+constexpr QSize kInitialSize(1000, 640);
 constexpr int kWhole = 1000;  // of the progress bar
 
 bool contains(const std::vector<AnalysisPage*>& pages, const AnalysisPage& page) {

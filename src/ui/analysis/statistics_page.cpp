@@ -43,8 +43,9 @@ StatisticsPage::StatisticsPage() : AnalysisPage(QStringLiteral("pagStatistics"),
 }
 
 void StatisticsPage::showAnalysis(const std::shared_ptr<const Analysis>& analysis) {
+  constexpr int kMost = 28;  // characters: a whole number, and the definitions are in view
   table_.showAnalysis(*analysis);
-  tblStatistics->fitColumns();
+  tblStatistics->fitColumns(kMost);
   tblStatistics->resizeRowsToContents();
   lblNote->setText(noteOn(*analysis));
   tblStatistics->setAccessibleDescription(lblNote->text());
