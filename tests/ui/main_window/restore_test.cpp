@@ -1,82 +1,14 @@
-#include <gmock/gmock.h>
-
-#include <QDialog>
-#include <QDir>
-#include <QDirIterator>
 #include <QPlainTextEdit>
-#include <QTreeWidget>
 
-#include "support/files.h"
 #include "support/stored.h"
-#include "ui/controls/state_folder.h"
-#include "ui/controls/status_line.h"
-#include "ui/data_windows/frmFun.h"
-#include "ui/support/main_window_test.h"
+#include "ui/support/restore_test.h"
 
 namespace tavimor {
 namespace {
 
 using testing::HasSubstr;
 
-class Restore : public MainWindowTest {
- protected:
-  // A problem of one variable, whose function has one value.
-  void typeProblem() {
-    declare("1", "x");
-    specify(0, "0", "4", "3", "2");
-    typeValue("0", "7.5");
-  }
-
-  void typeValue(const QString& point, const QString& value) {
-    dialogs.expectAndType(point);
-    click("cmdEditFun");
-    auto* function = Form::openForm<frmFun>();
-    ASSERT_NE(function, nullptr);
-    ASSERT_TRUE(waitForKeyboard(*function));
-    type(value);
-    clickDone();
-  }
-
-  void startAnew() {
-    window->unload();
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    model = Dimension();
-    window = new frmTavimor(model);
-    window->show();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(window));
-  }
-
-  // Chooses Restore... and looks at the dialog before a button is pressed.
-  void restore(const QString& button = "Open a copy", const std::function<void(QDialog&)>& look = {}) {
-    dialogs.expect([button, look](QDialog& dialog) {
-      if (look) look(dialog);
-      for (auto* one : dialog.findChildren<QPushButton*>())
-        if (one->text().remove('&') == button) return QTest::mouseClick(one, Qt::LeftButton);
-      ADD_FAILURE() << "no button " << button.toStdString();
-    });
-    item("mnuRestore").trigger();
-    activate();
-  }
-
-  static QTreeWidget& list(QDialog& dialog) { return *dialog.findChild<QTreeWidget*>("lstRestore"); }
-
-  std::string status() { return window->findChild<StatusLine*>("stbStatus")->text().toStdString(); }
-
-  // The folder of the problem that is kept, where it is the only one.
-  static QString keptFolder() {
-    QDirIterator all(QString::fromStdString(stateFolder()), {"problem.dat"}, QDir::Files, QDirIterator::Subdirectories);
-    return all.hasNext() ? QFileInfo(all.next()).path() : QString();
-  }
-
-  // But for what the windows remember.
-  static QStringList keptFiles() {
-    QStringList files;
-    QDirIterator all(QString::fromStdString(stateFolder()), QDir::Files, QDirIterator::Subdirectories);
-    while (all.hasNext()) files << QFileInfo(all.next()).fileName();
-    files.removeAll(QStringLiteral("windows.ini"));
-    return files;
-  }
-};
+class Restore : public RestoreTest {};
 
 TEST_F(Restore, BringsBackWhatWasClosedWithoutSaving) {
   typeProblem();
@@ -98,6 +30,19 @@ TEST_F(Restore, BringsBackWhatWasClosedWithoutSaving) {
   EXPECT_FALSE(item("mnuOpen").isEnabled());
 }
 
+TEST_F(Restore, IsUndoneAndDoneAgain) {
+  typeProblem();
+  startAnew();
+  restore();
+  EXPECT_EQ(item("mnuUndo").text(), "&Undo: problem restored");
+  press(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(textOf("txtOrder"), "");
+  EXPECT_TRUE(item("mnuOpen").isEnabled());
+  press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+  EXPECT_EQ(textOf("txtUL(0)"), "4");
+  EXPECT_EQ(model.F(0, 0, 0, 0), 7.5);
+}
+
 TEST_F(Restore, AFieldThatWasBeingTypedHasItsTextAgain) {
   declare("1", "x");
   enter("txtLL(0)", "-");
@@ -105,6 +50,34 @@ TEST_F(Restore, AFieldThatWasBeingTypedHasItsTextAgain) {
   restore();
   EXPECT_EQ(textOf("txtLL(0)"), "-");
   EXPECT_TRUE(box("txtPoints(0)").isEnabled());
+}
+
+TEST_F(Restore, NamesThatWereBeingTypedAreThereAgain) {
+  type("2");
+  press(Qt::Key_Tab);
+  type("temperature,pre");
+  startAnew();
+  restore("Open a copy", [](QDialog& dialog) {
+    const QTreeWidgetItem* one = list(dialog).topLevelItem(0);
+    EXPECT_EQ(one->text(1), "temperature,pre");
+    EXPECT_EQ(one->text(2), "");
+    EXPECT_TRUE(dialog.findChild<QPlainTextEdit*>("txtPreview")->toPlainText().contains("temperature,pre"));
+  });
+  EXPECT_EQ(textOf("txtOrder"), "2");
+  EXPECT_FALSE(box("txtOrder").isEnabled());
+  EXPECT_EQ(focusName(), "txtVarNams");
+  press(Qt::Key_End);
+  type("ssure");
+  press(Qt::Key_Tab);
+  EXPECT_EQ(model.VarName[1], "pressure");
+  EXPECT_EQ(focusName(), "txtLL(0)");
+}
+
+TEST_F(Restore, ANumberOfVariablesAloneIsNoWork) {
+  type("2");
+  press(Qt::Key_Tab);
+  startAnew();
+  EXPECT_EQ(keptFiles(), QStringList());
 }
 
 TEST_F(Restore, WhatIsTypedIsKeptByItself) {
@@ -155,22 +128,6 @@ TEST_F(Restore, AnErrorsEndIsTold) {
   EXPECT_TRUE(keptFiles().contains("end"));
 }
 
-TEST_F(Restore, TenReplacedPairsAreListedUnderTheirFile) {
-  test::store(twoVariables(), file("problem"));
-  open("problem");
-  for (int n = 0; n < 12; ++n) {
-    enter("txtUL(0)", QString::number(10 + n));
-    press(Qt::Key_S, Qt::ControlModifier);
-  }
-  restore("Close", [](QDialog& dialog) {
-    ASSERT_EQ(list(dialog).topLevelItemCount(), 1);
-    const QTreeWidgetItem* one = list(dialog).topLevelItem(0);
-    EXPECT_EQ(one->text(0), "problem");
-    EXPECT_EQ(one->childCount(), 10);
-    EXPECT_EQ(one->child(0)->text(4), "replaced by a save");
-  });
-}
-
 TEST_F(Restore, RemovesWhatIsNotWanted) {
   typeProblem();
   startAnew();
@@ -191,16 +148,6 @@ TEST_F(Restore, AWindowThatHasItsProblemOpensIntoANewOne) {
   restore("Close", [](QDialog& dialog) {
     EXPECT_EQ(dialog.findChild<QPushButton*>("cmdOpen")->text(), "&Open a copy in a new window");
   });
-}
-
-// A file in the place of the folder stands for all that can be refused.
-TEST_F(Restore, WhatCannotBeKeptIsToldOnceAndHindersNothing) {
-  test::writeBytes(stateFolder(), "");
-  typeProblem();
-  EXPECT_TRUE(QTest::qWaitFor([this] { return status().find("cannot be kept") != std::string::npos; }));
-  dialogs.expectAndType(pathOf("saved"));
-  press(Qt::Key_S, Qt::ControlModifier);
-  EXPECT_TRUE(QFile::exists(pathOf("saved.dat")));
 }
 
 }  // namespace
