@@ -107,6 +107,18 @@ TEST_F(PreciseCoefficients, AreToldInTheFirstLineOfTheList) {
   EXPECT_FALSE(inAnalysis<QPushButton>("cmdUsePrecise").isEnabled());
 }
 
+TEST_F(PreciseCoefficients, GoWithAnUndoAndComeBack) {
+  const Fit precise = model;
+  const std::string listed = listing();
+  EXPECT_EQ(item("mnuUndo").text(), "&Undo: precise coefficients used");
+  MainWindowTest::press(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(model.Coef.data()[0], fitted.Coef.data()[0]);
+  EXPECT_EQ(listing(), engineListing(model));
+  MainWindowTest::press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+  EXPECT_EQ(model.Coef.data()[0], precise.Coef.data()[0]);
+  EXPECT_EQ(listing(), listed);
+}
+
 TEST_F(PreciseCoefficients, AreSaved) {
   MainWindowTest::press(Qt::Key_S, Qt::ControlModifier);
   EXPECT_EQ(numberText(openProblem(file("problem")).fit.Coef.data()[0]), numberText(model.Coef.data()[0]));

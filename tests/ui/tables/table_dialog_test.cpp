@@ -95,6 +95,19 @@ TEST_F(TableDialogTest, AnImportedTableStandsInTheWindowAsIfOpened) {
   EXPECT_DOUBLE_EQ(model.Coef(1, 0, 0, 0), 2.0);
 }
 
+TEST_F(TableDialogTest, ATableThatWasTakenGoesWithAnUndoAndComesBack) {
+  paste(kPlane, [](QDialog& dialog) { pressButton(dialog, "cmdCreate"); });
+  const std::vector<double> function(model.F.data(), model.F.data() + model.F.size());
+  EXPECT_EQ(item("mnuUndo").text(), "&Undo: table taken");
+  press(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(focusName(), "txtOrder");
+  EXPECT_EQ(textOf("txtOrder"), "");
+  EXPECT_TRUE(item("mnuPaste").isEnabled());
+  press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+  EXPECT_EQ(std::vector<double>(model.F.data(), model.F.data() + model.F.size()), function);
+  EXPECT_FALSE(box("txtVarNams").isEnabled());
+}
+
 TEST_F(TableDialogTest, SavingAsksForAName) {
   paste(kPlane, [](QDialog& dialog) { pressButton(dialog, "cmdCreate"); });
   dialogs.expectAndType(pathOf("saved"));
