@@ -70,8 +70,8 @@ ulimit -c 0
 start
 typeProblem
 sleep 2
-kill -SEGV "$pid"
-endsWith $((128 + 11)) 2>/dev/null
+kill -ABRT "$pid"
+endsWith $((128 + 6)) 2>/dev/null
 saysOfTheEnd crashed
 restoreAs crashed
 isTheTypedProblem crashed

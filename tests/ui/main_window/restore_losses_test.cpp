@@ -1,5 +1,3 @@
-#include <sys/resource.h>
-
 #include <QPlainTextEdit>
 
 #include "platform/held_signals.h"
@@ -7,6 +5,10 @@
 #include "support/stored.h"
 #include "ui/data_windows/frmVars.h"
 #include "ui/support/restore_test.h"
+
+#ifndef _WIN32
+#include <sys/resource.h>
+#endif
 
 namespace tavimor {
 namespace {
