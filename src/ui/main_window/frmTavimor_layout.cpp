@@ -27,6 +27,12 @@ QWidget* makeScrolledGround(QVBoxLayout& whole) {
   return ground;
 }
 
+// Its texts begin and end where the fields above them do.
+void alignWith(const QLayout& rows, QWidget& statusLine) {
+  const QMargins margins = rows.contentsMargins();
+  statusLine.setContentsMargins(margins.left(), 0, margins.right(), 0);
+}
+
 void addStretched(QBoxLayout& layout, QWidget* widget) { layout.addWidget(widget, 1); }
 
 }  // namespace
@@ -47,6 +53,7 @@ MainControls::MainControls(QWidget& window) {
   rows->addLayout(middle);
   addStretched(*rows, lstCoeff);
   whole->addWidget(stbStatus);
+  alignWith(*rows, *stbStatus);
   window.resize(kInitialSize.boundedTo(window.screen()->availableSize() - kFrame));
 
   addBlock();
