@@ -1,6 +1,7 @@
 # What the component tavimor installs: the program with windows, its manual, the documents, what a desktop reads.
 tavimor_install_program(tavimor)
 install(FILES ${PROJECT_SOURCE_DIR}/help/tavimor.hlp DESTINATION ${CMAKE_INSTALL_DATADIR}/tavimor COMPONENT tavimor)
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/help/pictures DESTINATION ${CMAKE_INSTALL_DATADIR}/tavimor COMPONENT tavimor)
 
 # Run by both programs, never by hand: see src/platform/helper_program.h.
 install(TARGETS tavimor-workbook DESTINATION ${CMAKE_INSTALL_LIBEXECDIR}/tavimor COMPONENT tavimor)

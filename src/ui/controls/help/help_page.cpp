@@ -56,12 +56,18 @@ void HelpPage::moveCaret(int position) {
 
 void HelpPage::resetZoom() { setFont(verdanaFont()); }
 
+// A copy of a document, which is what is printed, no longer knows where its pictures are.
+QString HelpPage::withWholePaths(QString html) const {
+  const QString folder = source().resolved(QUrl(QStringLiteral("."))).toString(QUrl::FullyEncoded);
+  return html.replace(QStringLiteral("<img src=\""), QStringLiteral("<img src=\"") + folder);
+}
+
 std::unique_ptr<QTextDocument> HelpPage::printedDocument() {
   auto printed = std::make_unique<QTextDocument>();
   printed->setDefaultFont(document()->defaultFont());
   printed->setIndentWidth(kIndent);
   printed->setDefaultStyleSheet(helpStyleSheet(Ground::Light));
-  printed->setHtml(loadResource(QTextDocument::HtmlResource, source()).toString());
+  printed->setHtml(withWholePaths(loadResource(QTextDocument::HtmlResource, source()).toString()));
   return printed;
 }
 

@@ -35,6 +35,7 @@ class HelpPage : public QTextBrowser {
   void changeEvent(QEvent* event) override;
 
  private:
+  QString withWholePaths(QString html) const;
   void followPalette();
   void limitLineWidth();
   void layOutToTheEnd();

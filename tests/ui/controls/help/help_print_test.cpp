@@ -1,5 +1,7 @@
 #include "ui/controls/help/help_print.h"
 
+#include <QFile>
+#include <QImage>
 #include <QProcess>
 
 #include "ui/support/help_viewer_test.h"
@@ -42,6 +44,20 @@ TEST_F(HelpPrinting, TheTextHasTheSamePagesOnPaperHoweverItIsZoomed) {
   }
   EXPECT_FALSE(printed[0].isEmpty());
   EXPECT_EQ(printed[0], printed[1]);
+}
+
+TEST_F(HelpPrinting, PicturesBesideTheTextArePrintedWithIt) {
+  QImage picture(40, 40, QImage::Format_RGB32);
+  picture.fill(Qt::blue);
+  ASSERT_TRUE(picture.save(folder.filePath("blue.png")));
+  path = write("pictured.hlp", "<h1>One</h1><p><img src=\"blue.png\"></p>");
+  show();
+  const QString pdf = folder.filePath("pictured.pdf");
+  dialogs.expectAndPrintTo(pdf);
+  click("cmdPrint");
+  QFile printed(pdf);
+  ASSERT_TRUE(printed.open(QIODevice::ReadOnly));
+  EXPECT_TRUE(printed.readAll().contains("/Width 40"));
 }
 
 TEST_F(HelpPrinting, CallingTheDialogOffPrintsNothing) {

@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 
 #include <QFile>
+#include <QImage>
 #include <QTextBlock>
 #include <QTextDocument>
 #include <set>
@@ -27,9 +28,11 @@ class Manual : public testing::Test {
   QTextDocument text;
   std::vector<std::string> anchors;
   std::set<std::string> targets;
+  std::vector<QTextImageFormat> pictures;
 
  private:
   void take(const QTextCharFormat& format) {
+    if (format.isImageFormat()) pictures.push_back(format.toImageFormat());
     for (const QString& name : format.anchorNames()) anchors.push_back(name.toStdString());
     if (format.anchorHref().startsWith('#')) targets.insert(format.anchorHref().mid(1).toStdString());
   }
@@ -39,6 +42,15 @@ TEST_F(Manual, EveryInternalLinkHasItsAnchor) { EXPECT_THAT(targets, IsSubsetOf(
 
 TEST_F(Manual, AnAnchorStandsInOnePlace) {
   EXPECT_EQ(std::set<std::string>(anchors.begin(), anchors.end()).size(), anchors.size());
+}
+
+TEST_F(Manual, ItsPicturesAreThereInTheirSizes) {
+  EXPECT_FALSE(pictures.empty());
+  for (const QTextImageFormat& picture : pictures) {
+    const QImage image(QStringLiteral(TAVIMOR_SOURCE_DIR "/help/") + picture.name());
+    EXPECT_EQ(image.width(), picture.width()) << picture.name().toStdString();
+    EXPECT_EQ(image.height(), picture.height()) << picture.name().toStdString();
+  }
 }
 
 TEST_F(Manual, EveryWindowHasItsPage) {
