@@ -1,5 +1,5 @@
 #!/bin/bash
-# Makes the pictures of the README from the real program with a shipped example, on a display of its own.
+# Makes the pictures of the README and the documents from the real program, on a display of its own.
 # Usage: packaging/screenshots.sh [FOLDER]. Needs Xvfb, xdotool and ImageMagick, and a built release.
 set -euo pipefail
 cd "$(dirname "$0")/.."
@@ -9,12 +9,12 @@ cli=$PWD/build/release/bin/tavimor-cli
 
 if [ -z "${TAVIMOR_SCREENSHOTS_DISPLAY:-}" ]; then
   export TAVIMOR_SCREENSHOTS_DISPLAY=1
-  exec packaging/with_display.sh 1600x1400 "packaging/$(basename "$0")" "$@"
+  exec packaging/with_display.sh 2000x1400 "packaging/$(basename "$0")" "$@"
 fi
 
 work=$(mktemp -d)
 trap 'kill "${pid:-}" 2>/dev/null || true; rm -rf "$work"' EXIT
-mkdir -p "$folder"
+mkdir -p "$folder" help/pictures
 export XDG_STATE_HOME=$work/state # nothing of the user's is listed or touched
 
 source packaging/keys.sh
@@ -44,10 +44,56 @@ keys F1
 picture help-window '^Tavimor Help$'
 stop
 
-# Pictures of fits, for which no window opens.
-"$tavimor" --picture section -o "$folder/section.png" --x C examples/offset-print
-"$tavimor" --picture map -o "$folder/map.png" examples/silicon-index
-"$tavimor" --picture residuals -o "$folder/residuals.png" examples/silicon-index
+# analysis NAME PROBLEM: all pages of the analysis window, six in a picture. They stay in $work.
+analysis() {
+  start "$2"
+  keys F9
+  for page in c s e p r d; do # the keys of the pages
+    focus '^Analysis$'
+    keys alt+$page
+    sleep 3
+    import -window "$(window '^Analysis$' | head -n 1)" -strip "$work/page-$page.png"
+  done
+  stop
+  montage "$work"/page-{c,s,e,p,r,d}.png -tile 2x3 -geometry 500x320+3+3 +dither -colors 200 -strip "PNG8:$folder/$1.png"
+}
+
+# A desktop with light letters on a dark ground, 200 %.
+darkAndLarge() {
+  mkdir -p "$work/config"
+  for ground in Button=60,65,70 Tooltip=49,54,59 View=35,38,41 Window=49,54,59; do
+    printf '[Colors:%s]\nBackgroundNormal=%s\nForegroundNormal=239,240,241\n' "${ground%=*}" "${ground#*=}"
+  done >"$work/config/kdeglobals"
+  printf '[Colors:Selection]\nBackgroundNormal=61,174,233\nForegroundNormal=252,252,252\n' >>"$work/config/kdeglobals"
+  export XDG_CONFIG_HOME=$work/config XDG_CURRENT_DESKTOP=KDE KDE_SESSION_VERSION=5 QT_SCALE_FACTOR=2
+}
+
+# Pictures of fits for the manual, for which no window opens.
+for picture in section map; do
+  "$tavimor" --picture $picture -o "$work/$picture.png" examples/silicon-index
+  convert "$work/$picture.png" -resize 560 +dither -colors 128 -strip "PNG8:help/pictures/$picture.png"
+done
+
+# Four variables, which no example has.
+awk 'BEGIN {
+  print "x;y;z;w;f"
+  for (x = 0; x < 5; x++) for (y = 0; y < 4; y++) for (z = 0; z < 4; z++) for (w = 0; w < 3; w++)
+    printf "%d;%d;%d;%d;%.6f\n", x, y, z, w, sin(x / 2) + 0.3 * y * y * cos(z / 2) + w * x / 5 + 0.02 * sin(37 * x + 11 * y + 5 * z + w)
+}' >"$work/table"
+"$cli" import "$work/table" "$work/imported" >/dev/null
+problems=(examples/load-cell examples/silicon-index examples/offset-print "$work/imported")
+for n in 1 2 3 4; do
+  "$cli" fit "${problems[n - 1]}" --output "$work/fitted-$n" >/dev/null 2>&1
+  analysis "analysis-$n" "$work/fitted-$n"
+  [ "$n" = 2 ] || continue
+  for page in map:p residuals:r; do # the two of the README
+    cp "$work/page-${page#*:}.png" "$folder/analysis-${page%:*}.png"
+  done
+done
+(
+  darkAndLarge
+  for n in 1 2 3 4; do analysis "analysis-$n-dark" "$work/fitted-$n"; done
+)
 
 # The tour of the README.
 folder=$PWD/$folder
