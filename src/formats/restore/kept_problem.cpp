@@ -95,7 +95,7 @@ void readVariable(const JsonItem& item, SessionProblem& kept, Long k) {
 }
 
 json readJson(const std::string& path) {
-  const json read = json::parse(wholeText(path), nullptr, false);
+  json read = json::parse(wholeText(path), nullptr, false);
   if (read.is_discarded()) throw BadFile(path, "the whole", "JSON", "something else");
   return read;
 }
