@@ -171,6 +171,7 @@ std::string helpOf(const CLI::App& app) {
 ParsedArguments parseArguments(std::vector<std::string> words) {
   ParsedArguments parsed;
   CLI::App app(kPurpose, kProgram);
+  app.allow_windows_style_options(false);  // a word with a slash in front is a path on every system
   app.set_version_flag("--version", "tavimor-cli " TAVIMOR_VERSION, kVersionIs);
   app.set_help_flag("-h,--help", kHelpIs);
   app.get_formatter()->label("SUBCOMMAND", "COMMAND");

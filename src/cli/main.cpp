@@ -9,6 +9,7 @@
 #include "cli/import_command.h"
 #include "cli/output.h"
 #include "platform/held_signals.h"
+#include "platform/program_words.h"
 #include "runtime/run_time_error.h"
 
 namespace {
@@ -74,8 +75,9 @@ ExitCode runWords(const std::vector<std::string>& words) {
 
 int main(int argc, char** argv) {
   reportFileSizeLimitAsError();
+  carryBytesOnStandardStreams();
   try {
-    return static_cast<int>(runWords({argv + 1, argv + argc}));
+    return static_cast<int>(runWords(programWords(argc, argv)));
   } catch (const std::exception&) {  // not even memory for the words, or for a message
     std::fputs("tavimor-cli: Run-time error '7': Out of memory\n", stderr);
     return static_cast<int>(ExitCode::Error);

@@ -78,10 +78,10 @@ json parsed(std::string_view text, const std::string& path) {
     return json::parse(text);
   } catch (const json::parse_error& error) {
     const std::size_t at = std::min(error.byte == 0 ? 0 : error.byte - 1, text.size());
-    const auto line = 1 + std::count(text.begin(), text.begin() + static_cast<std::ptrdiff_t>(at), '\n');
+    const auto lineEnds = std::count(text.begin(), text.begin() + static_cast<std::ptrdiff_t>(at), '\n');
     std::string found = at == text.size() ? "nothing" : '"' + utf8FromBytes(text.substr(at, 1)) + '"';
     if (at < text.size() && static_cast<unsigned char>(text[at]) < ' ') found = "a line's end or a control character";
-    throw BadFile(path, line, "JSON", found);
+    throw BadFile(path, 1 + static_cast<long>(lineEnds), "JSON", found);
   }
 }
 

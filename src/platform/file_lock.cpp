@@ -6,6 +6,8 @@
 
 #ifdef _WIN32
 #include <windows.h>
+
+#include "platform/windows_error.h"
 #else
 #include <fcntl.h>
 #include <sys/file.h>
@@ -21,17 +23,20 @@ constexpr const char* kUnknownHolder = "another program";
 
 #ifdef _WIN32
 
+// What stands there already goes: it is left over, or a second name of another file. The file of a living holder stays.
 FileLock::Attempt FileLock::tryAcquire() {
-  const HANDLE file = CreateFileW(nativePath(path_).c_str(), GENERIC_WRITE, 0, nullptr, OPEN_ALWAYS,
+  const std::filesystem::path path = nativePath(path_);
+  holder_ = kUnknownHolder;
+  if (!DeleteFileW(path.c_str()) && GetLastError() == ERROR_SHARING_VIOLATION) return Attempt::InTheWay;
+  const HANDLE file = CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
                                   FILE_FLAG_DELETE_ON_CLOSE | FILE_FLAG_OPEN_REPARSE_POINT, nullptr);
   if (file != INVALID_HANDLE_VALUE) {
     handle_ = reinterpret_cast<std::intptr_t>(file);
     return Attempt::Acquired;
   }
-  holder_ = kUnknownHolder;
   const DWORD reason = GetLastError();
-  if (reason == ERROR_SHARING_VIOLATION) return Attempt::InTheWay;
-  errno = reason == ERROR_PATH_NOT_FOUND ? ENOENT : EACCES;
+  if (reason == ERROR_SHARING_VIOLATION || reason == ERROR_FILE_EXISTS) return Attempt::InTheWay;
+  errno = errnoOf(reason);
   return Attempt::Refused;
 }
 

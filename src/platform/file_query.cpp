@@ -6,7 +6,9 @@
 #include <io.h>
 #include <windows.h>
 
+#include "platform/device_name.h"
 #include "platform/files.h"
+#include "platform/windows_error.h"
 #else
 #include <sys/stat.h>
 #endif
@@ -25,9 +27,12 @@ FileKind kindOf(DWORD attributes) {
 }
 
 bool query(HANDLE handle, FileFacts& facts) {
+  facts = {};
+  facts.kind = FileKind::Other;
+  if (GetFileType(handle) != FILE_TYPE_DISK) return true;
   BY_HANDLE_FILE_INFORMATION information;
   if (!GetFileInformationByHandle(handle, &information)) {
-    errno = EIO;
+    errno = errnoOf(GetLastError());
     return false;
   }
   facts = {kindOf(information.dwFileAttributes), information.dwVolumeSerialNumber,
@@ -40,14 +45,18 @@ bool query(HANDLE handle, FileFacts& facts) {
 
 bool queryFile(const std::string& path, LastLink lastLink, FileFacts& facts) {
   facts = {};
+  if (isDeviceName(path)) {
+    facts.kind = FileKind::Other;
+    return true;
+  }
   const DWORD reparse = lastLink == LastLink::Keep ? FILE_FLAG_OPEN_REPARSE_POINT : 0;
   const HANDLE handle = CreateFileW(nativePath(path).c_str(), FILE_READ_ATTRIBUTES,
                                     FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr, OPEN_EXISTING,
                                     FILE_FLAG_BACKUP_SEMANTICS | reparse, nullptr);
   if (handle == INVALID_HANDLE_VALUE) {
-    const DWORD reason = GetLastError();
-    errno = reason == ERROR_ACCESS_DENIED ? EACCES : EIO;
-    return reason == ERROR_FILE_NOT_FOUND || reason == ERROR_PATH_NOT_FOUND;
+    errno = errnoOf(GetLastError());
+    // What can be the name of no file is nobody's.
+    return errno == ENOENT || errno == EINVAL || errno == ENAMETOOLONG;
   }
   const bool told = query(handle, facts);
   CloseHandle(handle);

@@ -1,14 +1,17 @@
 #include "platform/files.h"
 
+#include <cerrno>
+
 #ifdef _WIN32
 #include <fcntl.h>
 #include <io.h>
 #include <sys/stat.h>
+#include <windows.h>
+
+#include "platform/windows_error.h"
 #else
 #include <fcntl.h>
 #include <unistd.h>
-
-#include <cerrno>
 #endif
 
 namespace tavimor {
@@ -44,7 +47,22 @@ FileHandle createFile(const std::string& path, Access) {
   return opened(path, _O_WRONLY | _O_CREAT | _O_EXCL, _S_IREAD | _S_IWRITE, "wb");
 }
 
-FileHandle openForReading(const std::string& path) { return opened(path, _O_RDONLY, 0, "rb"); }
+// Others may rename and remove the file meanwhile, as they may on other systems.
+FileHandle openForReading(const std::string& path) {
+  const HANDLE file =
+      CreateFileW(nativePath(path).c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
+                  nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+  if (file == INVALID_HANDLE_VALUE) {
+    const DWORD reason = GetLastError();
+    const DWORD attributes = GetFileAttributesW(nativePath(path).c_str());
+    const bool isFolder = attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+    const bool isNoName = reason == ERROR_INVALID_NAME || reason == ERROR_BAD_PATHNAME;  // nothing stands there
+    errno = isFolder ? EISDIR : isNoName ? ENOENT : errnoOf(reason);
+    return nullptr;
+  }
+  const int descriptor = _open_osfhandle(reinterpret_cast<std::intptr_t>(file), _O_RDONLY | _O_BINARY);
+  return descriptor < 0 ? nullptr : unbuffered(_fdopen(descriptor, "rb"));
+}
 
 bool mayBeWritten(const std::string& path) { return opened(path, _O_WRONLY, 0, "wb") != nullptr; }
 

@@ -13,6 +13,14 @@
 #include <spawn.h>
 #include <sys/wait.h>
 #include <unistd.h>
+#ifdef __APPLE__
+#include <mach-o/dyld.h>
+
+#include <climits>
+#include <cstdint>
+
+extern "C" char** environ;  // which no header declares there
+#endif
 #endif
 
 namespace tavimor {
@@ -34,7 +42,14 @@ constexpr const char* kEnding = ".exe";
 
 fs::path ownPath() {
   std::error_code ignored;
+#ifdef __APPLE__
+  std::string path(PATH_MAX, '\0');
+  auto size = static_cast<std::uint32_t>(path.size());
+  if (_NSGetExecutablePath(path.data(), &size) != 0) return {};
+  return fs::canonical(path.c_str(), ignored);
+#else
   return fs::read_symlink("/proc/self/exe", ignored);
+#endif
 }
 
 constexpr const char* kEnding = "";
@@ -55,8 +70,25 @@ std::optional<std::string> helperProgram(const std::string& name) {
 
 #ifdef _WIN32
 
+namespace {
+
+// As the library of the program that is called cuts its command line: a backslash is doubled before a quotation mark
+// alone, those at the end included.
+std::wstring quoted(const std::string& word) {
+  std::string text = "\"";
+  std::size_t backslashes = 0;
+  for (const char c : word) {
+    if (c == '"') text.append(backslashes + 1, '\\');
+    backslashes = c == '\\' ? backslashes + 1 : 0;
+    text += c;
+  }
+  text.append(backslashes, '\\');
+  return nativePath(text + '"').wstring();
+}
+
+}  // namespace
+
 int runProgram(const std::string& program, const std::vector<std::string>& arguments) {
-  const auto quoted = [](const std::string& word) { return nativePath('"' + word + '"').wstring(); };
   std::vector<std::wstring> words = {quoted(program)};
   for (const std::string& argument : arguments) words.push_back(quoted(argument));
   std::vector<const wchar_t*> pointers;

@@ -55,8 +55,8 @@ bool closeToOthers(const std::string& path) {
 bool makePrivateFolder(const std::string& path) {
   const fs::path folder = nativePath(path);
   std::error_code error;
-  fs::path made;
-  for (const fs::path& part : folder) {
+  fs::path made = folder.root_path();
+  for (const fs::path& part : folder.relative_path()) {
     made /= part;
     if (fs::is_directory(made, error)) continue;
     error.clear();

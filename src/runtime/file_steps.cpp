@@ -7,6 +7,7 @@
 #include "platform/file_attributes.h"
 #include "platform/file_query.h"
 #include "platform/held_signals.h"
+#include "platform/rename_over.h"
 
 namespace tavimor {
 
@@ -81,9 +82,7 @@ bool FileSteps::replace(const std::string& path, const std::string& target) {
   FileFacts file, replaced;
   if (!queryFile(path, LastLink::Keep, file) || !queryFile(target, LastLink::Keep, replaced)) return false;
   if (file.isSameFileAs(replaced)) return removeFile(path);
-  std::error_code error;
-  fs::rename(nativePath(path), nativePath(target), error);
-  return succeeded(error);
+  return renameOver(path, target);
 }
 
 bool FileSteps::remove(const std::string& path) { return removeFile(path); }

@@ -42,7 +42,10 @@ void fill(lxw_workbook* workbook, const Problem& problem, const Formula& formula
 }  // namespace
 
 void writeWorkbook(const Problem& problem, const Formula& formula, const std::string& path) {
-  lxw_workbook* workbook = workbook_new(path.c_str());
+  char workingFolder[] = ".";
+  lxw_workbook_options options{};
+  options.tmpdir = workingFolder;
+  lxw_workbook* workbook = workbook_new_opt(path.c_str(), &options);
   if (workbook == nullptr) throw RunTimeError(ErrorNumber::OutOfMemory);
   fill(workbook, problem, formula);
   if (workbook_close(workbook) != LXW_NO_ERROR) throw RunTimeError(ErrorNumber::PathFileAccess, path);

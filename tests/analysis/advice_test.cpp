@@ -30,16 +30,16 @@ TEST(Advice, TellsTheDigitsBeforeAndAfterTheRemedy) {
   const auto analysis = analyse(test::fitted(exponential(1000, 3)));
   const Advice advice = adviceOn(*analysis);
   EXPECT_EQ(advice.action, Action::CentreInTheMiddle);
-  EXPECT_THAT(advice.sentence, ContainsRegex("^[0-9]+ of 15 digits of the worst coefficient are right. Centre in the "
-                                             "middle: 1[0-9]. Precise coefficients: 15.$"));
-  EXPECT_THAT(advice.summary, ContainsRegex("^[0-9]+ of 15 digits are right$"));
+  EXPECT_THAT(advice.sentence, ContainsRegex("^.+ of 15 digits of the worst coefficient are right. Centre in the "
+                                             "middle: 1.\\. Precise coefficients: 15.$"));
+  EXPECT_THAT(advice.summary, ContainsRegex("^.+ of 15 digits are right$"));
 }
 
 TEST(Advice, OfAGoodFitIsNone) {
   const auto analysis = analyse(test::fitted(exponential(-2.5, 4)));
   const Advice advice = adviceOn(*analysis);
   EXPECT_EQ(advice.action, Action::None);
-  EXPECT_THAT(advice.sentence, ContainsRegex("^1[0-9] of 15 digits of the worst coefficient are right.$"));
+  EXPECT_THAT(advice.sentence, ContainsRegex("^1. of 15 digits of the worst coefficient are right.$"));
 }
 
 TEST(Advice, TellsDegreesThatAreEnough) {

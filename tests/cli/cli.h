@@ -7,7 +7,11 @@
 #include <vector>
 
 #include "support/files.h"
+#ifdef _WIN32
+#include "support/windows_process.h"
+#else
 #include "support/process.h"
+#endif
 #include "support/temporary_folder.h"
 
 namespace tavimor::test {
@@ -40,6 +44,7 @@ inline std::string fileText(std::initializer_list<std::string> lines) {
 /// Tests of commands, with problems of their own.
 class CommandTest : public FolderTest {
  protected:
+#ifndef _WIN32
   /// Runs the program with a standard output that has no room.
   Outcome runOnFullDevice(const std::vector<std::string>& arguments, const std::string& input = {}) {
     Pipe in, err;
@@ -52,6 +57,7 @@ class CommandTest : public FolderTest {
     const int exitCode = process.wait();
     return {exitCode, "", readAll(err.reading)};
   }
+#endif
 
   /// Writes the pair and returns its path.
   std::string writePair(const std::string& name, const std::string& specification, const std::string& values) {

@@ -1,6 +1,9 @@
 #include <gmock/gmock.h>
+
+#ifndef _WIN32
 #include <sys/resource.h>
 #include <sys/stat.h>
+#endif
 
 #include "cli/cli.h"
 #include "support/example.h"
@@ -46,6 +49,8 @@ TEST_F(Errors, AMissingFolderForTheCopy) {
               (folder / "no/where.dat") + ": Run-time error '76': Path not found");
 }
 
+#ifndef _WIN32  // it knows no such limits
+
 #ifndef __SANITIZE_ADDRESS__  // which takes terabytes of address space
 
 // From a little more than the program itself takes to enough, over the point where no thread finds its stack.
@@ -82,6 +87,8 @@ TEST_F(Errors, ALimitForTheSizeOfFiles) {
   EXPECT_TRUE(test::namesIn(folder.path()).empty());
 }
 
+#endif
+
 TEST_F(Errors, AFolderIsNoProblem) {
   expectError({"fit", folder.path()}, folder.path() + ": Run-time error '75': Path/File access error");
 }
@@ -99,6 +106,8 @@ TEST_F(Errors, AValuesFileThatEndsEarly) {
   expectError({"fit", problem},
               problem + ".dat: line 9: expected a value of the function (a number), found the end of the file");
 }
+
+#ifndef _WIN32  // it has no such device, and opens no folder as a file
 
 TEST_F(Errors, AFullDevice) {
   const std::string full = "tavimor-cli: standard output: Run-time error '61': Disk full\n";
@@ -139,6 +148,8 @@ TEST_F(Errors, StandardInputThatCannotBeRead) {
   EXPECT_EQ(process.wait(), 1);
   EXPECT_EQ(test::readAll(err.reading), "tavimor-cli: standard input: Run-time error '75': Path/File access error\n");
 }
+
+#endif
 
 }  // namespace
 }  // namespace tavimor

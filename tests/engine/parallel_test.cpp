@@ -1,7 +1,10 @@
 #include "engine/parallel.h"
 
 #include <gtest/gtest.h>
+
+#ifndef _WIN32
 #include <sys/resource.h>
+#endif
 
 #include <atomic>
 #include <thread>
@@ -22,6 +25,8 @@ TEST(Parallel, EachPartIsDoneOnce) {
     for (const auto& times : done) EXPECT_EQ(times, 1);
   }
 }
+
+#ifndef _WIN32  // it knows no such limit
 
 // In a process that may have no second thread.
 class WithoutThreads : public testing::Test {
@@ -64,6 +69,8 @@ TEST_F(WithoutThreads, AFitIsTheSame) {
             }),
             0);
 }
+
+#endif
 
 }  // namespace
 }  // namespace tavimor

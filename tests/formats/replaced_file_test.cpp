@@ -27,6 +27,8 @@ TEST_F(ReplacedFile, HoldsTheBytesAndHasNothingBesideIt) {
   EXPECT_THAT(test::namesIn(folder.path()), ElementsAre("out"));
 }
 
+#ifndef _WIN32  // links are made by the superuser alone there, and by Wine never
+
 TEST_F(ReplacedFile, IsTheOneThatALinkLeadsTo) {
   test::writeBytes(folder / "real", "old");
   std::filesystem::create_symlink("real", path());
@@ -34,6 +36,8 @@ TEST_F(ReplacedFile, IsTheOneThatALinkLeadsTo) {
   EXPECT_TRUE(std::filesystem::is_symlink(path()));
   EXPECT_EQ(test::readBytes(folder / "real"), "new");
 }
+
+#endif
 
 TEST_F(ReplacedFile, MustNotBeAFolder) {
   std::filesystem::create_directory(path());

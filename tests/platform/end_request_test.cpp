@@ -17,7 +17,7 @@ bool hasRequest(int descriptor) {
 class EndRequest : public testing::TestWithParam<int> {
  protected:
   ~EndRequest() override {
-    for (const int signal : {SIGTERM, SIGINT}) std::signal(signal, SIG_DFL);
+    for (const int signal : {SIGTERM, SIGINT, SIGHUP}) std::signal(signal, SIG_DFL);
   }
 };
 

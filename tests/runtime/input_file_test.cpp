@@ -71,7 +71,7 @@ TEST_F(InputFileFields, ManyNumbersComeInTheirOrderWhateverTheirLines) {
   }
   InputFile file = opened(bytes + "x");
   EXPECT_EQ(read(file, wanted.size()), wanted);
-  const long lines = std::count(bytes.begin(), bytes.end(), '\n');
+  const auto lines = std::count(bytes.begin(), bytes.end(), '\n');
   expectBadFile("line " + std::to_string(lines + 1) + ": expected the end of the file, found \"x\"",
                 [&] { file.expectEnd(); });
 }

@@ -76,8 +76,12 @@ TEST_F(OutputFileBytes, ManyLinesComeWholeAndInOrder) {
 
 TEST_F(OutputFileBytes, WhatStandsThereAlreadyIsNotWrittenTo) {
   test::writeBytes(folder / "file", "mine");
+  std::vector<const char*> names = {"file"};
+#ifndef _WIN32  // links are made by the superuser alone there, and by Wine never
   std::filesystem::create_symlink("file", folder / "link");
-  for (const char* name : {"file", "link"})
+  names.push_back("link");
+#endif
+  for (const char* name : names)
     expectError(ErrorNumber::PathFileAccess, [&] { OutputFile(folder / name, systemFileSteps()); });
   EXPECT_EQ(test::readBytes(folder / "file"), "mine");
 }

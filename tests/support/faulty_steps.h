@@ -7,11 +7,23 @@
 #include <string_view>
 #include <utility>
 
+#ifdef _WIN32
+#include <windows.h>
+#endif
+
 #include "runtime/file_steps.h"
 
 namespace tavimor::test {
 
 constexpr int kKilled = 77;
+
+/// Ends the process without any of its own work at an end.
+[[noreturn]] inline void endAtOnce() {
+#ifdef _WIN32
+  TerminateProcess(GetCurrentProcess(), kKilled);
+#endif
+  std::_Exit(kKilled);
+}
 
 enum class Fault { None, Refused, Killed };
 
@@ -55,7 +67,7 @@ class FaultySteps : public FileSteps {
   bool passes() {
     const Fault fault = comes();
     ++count_;
-    if (fault == Fault::Killed) std::_Exit(kKilled);
+    if (fault == Fault::Killed) endAtOnce();
     if (fault == Fault::Refused) errno = ENOSPC;
     return fault == Fault::None;
   }

@@ -6,6 +6,8 @@
 #include <random>
 #include <string>
 
+#include "platform/files.h"
+
 namespace tavimor::test {
 
 /// An empty folder of its own, gone with everything in it when the object goes.
@@ -23,10 +25,10 @@ class TemporaryFolder {
     std::filesystem::remove_all(path_, ignored);
   }
 
-  std::string path() const { return path_.string(); }
+  std::string path() const { return utf8Path(path_); }
 
   /// The path of a file in the folder.
-  std::string operator/(const std::string& name) const { return (path_ / name).string(); }
+  std::string operator/(const std::string& name) const { return utf8Path(path_ / nativePath(name)); }
 
  private:
   std::filesystem::path path_;

@@ -3,14 +3,28 @@
 #include <algorithm>
 #include <charconv>
 #include <cmath>
+#include <string>
 
 #include "runtime/number_text.h"
 
 namespace tavimor {
 
+namespace {
+
+// The double nearest to it: not every system's pow is so exact. 0 beyond the range of a double.
+double powerOfTen(double exponent) {
+  if (!std::isfinite(exponent)) return 0.0;
+  const std::string text = "1e" + std::to_string(static_cast<int>(exponent));
+  double power = 0.0;
+  std::from_chars(text.data(), text.data() + text.size(), power);
+  return power;
+}
+
+}  // namespace
+
 double roundStep(double lower, double upper, int parts) {
   const double least = (upper / parts - lower / parts);
-  const double unit = std::pow(10.0, std::floor(std::log10(least)));
+  const double unit = powerOfTen(std::floor(std::log10(least)));
   for (const double factor : {1.0, 2.0, 5.0})
     if (factor * unit >= least) return factor * unit;
   return 10.0 * unit;
@@ -41,7 +55,7 @@ int axisExponent(double lower, double upper) {
 
 double dividedByPower(double value, int exponent) {
   const int half = exponent / 2;  // the whole power may be beyond the range of a double
-  return value / std::pow(10.0, half) / std::pow(10.0, exponent - half);
+  return value / powerOfTen(half) / powerOfTen(exponent - half);
 }
 
 std::string shortNumber(double value) {

@@ -9,6 +9,7 @@
 #include "platform/crash_note.h"
 #include "platform/end_request.h"
 #include "platform/held_signals.h"
+#include "platform/program_words.h"
 #include "runtime/run_time_error.h"
 #include "runtime/standard_output.h"
 #include "runtime/text.h"
@@ -90,6 +91,7 @@ int answer(const PictureRequest& request) {
 
 Arguments parse(std::vector<std::string> words) {
   CLI::App app(kPurpose, kProgram);
+  app.allow_windows_style_options(false);  // a word with a slash in front is a path on every system
   app.set_version_flag("--version", "tavimor " TAVIMOR_VERSION, kVersionIs);
   app.set_help_flag("-h,--help", kHelpIs);
   app.get_formatter()->label("Positionals", "Arguments");
@@ -124,7 +126,7 @@ Arguments parse(std::vector<std::string> words) {
 
 int main(int argc, char** argv) {
   reportFileSizeLimitAsError();
-  const Arguments arguments = parse(withoutToolkitOptions({argv + 1, argv + argc}));
+  const Arguments arguments = parse(withoutToolkitOptions(programWords(argc, argv)));
   if (arguments.exitCode) return *arguments.exitCode;
 #ifdef TAVIMOR_PICTURES
   if (arguments.picture) return answer(*arguments.picture);
