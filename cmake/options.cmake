@@ -46,3 +46,17 @@ endif()
 if(TAVIMOR_FUZZ)
   target_compile_options(tavimor_options INTERFACE -fsanitize=fuzzer-no-link)
 endif()
+
+# What Windows shows of a program: see packaging/windows/program.rc.in.
+if(WIN32)
+  enable_language(RC)
+endif()
+function(tavimor_add_resources TAVIMOR_PROGRAM)
+  if(WIN32)
+    set(resources ${CMAKE_CURRENT_BINARY_DIR}/${TAVIMOR_PROGRAM}.rc)
+    configure_file(${PROJECT_SOURCE_DIR}/packaging/windows/program.rc.in ${resources} @ONLY)
+    target_sources(${TAVIMOR_PROGRAM} PRIVATE ${resources})
+    set_source_files_properties(${resources} PROPERTIES
+      OBJECT_DEPENDS ${PROJECT_SOURCE_DIR}/packaging/windows/program.manifest)
+  endif()
+endfunction()
