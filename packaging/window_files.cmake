@@ -5,6 +5,9 @@ install(DIRECTORY ${PROJECT_SOURCE_DIR}/help/pictures DESTINATION ${CMAKE_INSTAL
 
 # Run by both programs, never by hand: see src/platform/helper_program.h.
 install(TARGETS tavimor-workbook DESTINATION ${CMAKE_INSTALL_LIBEXECDIR}/tavimor COMPONENT tavimor)
+if(APPLE)
+  install(TARGETS tavimor-workbook DESTINATION tavimor.app/Contents/libexec/tavimor COMPONENT tavimor)
+endif()
 
 # The documents keep their places beside each other, so that their links hold. What is written for developers links to
 # what only the sources have, and stays out.

@@ -24,6 +24,9 @@ QAction* addBar(QMenu& menu, const char* name) {
 
 void MainControls::makeMenus(QWidget& window) {
   menuBar = new QMenuBar(&window);
+#ifdef Q_OS_MACOS
+  menuBar->setNativeMenuBar(false);  // that one shows no item without a menu, as Help and About are
+#endif
   makeFileMenu();
   makeToolsMenu();
   mnuHelp = addItem(*menuBar, "mnuHelp", "&Help");
