@@ -120,6 +120,20 @@ TEST_F(PictureSelection, APointThatTheGridHasLostIsSelectedNoLonger) {
   EXPECT_TRUE(QTest::qWaitFor([] { return marks().x.empty(); }));
 }
 
+TEST_F(PictureSelection, APictureOfAFitThatIsDroppedGreysAndStays) {
+  const std::string before = words();
+  activate();
+  enter("txtTerms(0)", "1");
+  AnalysisWindowTest::press(Qt::Key_Tab);
+  EXPECT_EQ(picture().palette().color(QPalette::Active, QPalette::WindowText),
+            QApplication::palette().color(QPalette::Disabled, QPalette::WindowText));
+  EXPECT_EQ(words(), before);
+  compute();
+  EXPECT_TRUE(QTest::qWaitFor([&] { return words() != before; }));
+  EXPECT_EQ(picture().palette().color(QPalette::Active, QPalette::WindowText),
+            QApplication::palette().color(QPalette::Active, QPalette::WindowText));
+}
+
 TEST_F(PictureSelection, InAGridThatHasChangedMeanwhileNoPointIsOpened) {
   addAValue();
   QString text;
