@@ -55,7 +55,7 @@ analysis() {
     import -window "$(window '^Analysis$' | head -n 1)" -strip "$work/page-$page.png"
   done
   stop
-  montage "$work"/page-{c,s,e,p,r,d}.png -tile 2x3 -geometry 500x320+3+3 +dither -colors 200 -strip "PNG8:$folder/$1.png"
+  montage "$work"/page-{c,s,e,p,r,d}.png -tile 2x3 -geometry 500x320+3+3 -dither FloydSteinberg -colors 255 -strip "PNG8:$folder/$1.png"
 }
 
 # A desktop with light letters on a dark ground, 200 %.
