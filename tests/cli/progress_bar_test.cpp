@@ -3,6 +3,8 @@
 #include <gmock/gmock.h>
 
 #include <algorithm>
+#include <atomic>
+#include <csignal>
 #include <thread>
 
 #include "cli.h"
@@ -50,6 +52,30 @@ TEST(ProgressBar, ShortWorkShowsNothing) { EXPECT_EQ(shownOnTerminal(0ms), ""); 
 
 TEST(ProgressBar, WithoutATerminalThereIsNone) { EXPECT_EQ(shownOnPipe(600ms), ""); }
 
+// Lets a process work for a sixth of the time, so that what it does lasts on a fast machine too.
+class Brake {
+ public:
+  explicit Brake(const test::Process& process) : thread_([this, &process] { stopAndGo(process); }) {}
+
+  void release() {
+    released_ = true;
+    thread_.join();
+  }
+
+ private:
+  void stopAndGo(const test::Process& process) const {
+    while (!released_) {
+      std::this_thread::sleep_for(20ms);
+      process.send(SIGSTOP);
+      std::this_thread::sleep_for(100ms);
+      process.send(SIGCONT);
+    }
+  }
+
+  std::atomic<bool> released_ = false;
+  std::thread thread_;
+};
+
 // 700 x 700 values of a function that is no polynomial, degrees of 11.
 class ProgressOfACommand : public test::CommandTest {
  protected:
@@ -71,8 +97,10 @@ class ProgressOfACommand : public test::CommandTest {
     const test::Descriptor out(open("/dev/null", O_WRONLY | O_CLOEXEC));
     test::Process process(STDIN_FILENO, out.number(), terminal.terminal.number(),
                           [&] { return test::execute(TAVIMOR_CLI, command); });
+    Brake brake(process);
     terminal.terminal.close();
     const std::string shown = test::readAll(terminal.master);
+    brake.release();
     EXPECT_EQ(process.wait(), 0);
     EXPECT_THAT(shown, EndsWith("\r\x1B[K"));
     int largest = -1;

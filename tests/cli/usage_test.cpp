@@ -17,6 +17,8 @@ struct UsageCase {
   const char* call;
 };
 
+void PrintTo(const UsageCase& usage, std::ostream* out) { *out << usage.name; }
+
 std::vector<UsageCase> usageCases() {
   return {
       {"NoCommand", {}, "a command is needed", "tavimor-cli"},

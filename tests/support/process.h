@@ -8,6 +8,7 @@
 
 #include <array>
 #include <chrono>
+#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
@@ -110,6 +111,8 @@ class Process {
     dup2(err, STDERR_FILENO);
     _exit(work());
   }
+
+  void send(int signal) const { kill(id_, signal); }
 
   /// Waits for the end: the exit status, or -1 for a process that a signal has ended.
   int wait() {
