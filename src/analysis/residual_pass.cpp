@@ -21,27 +21,42 @@ void contractAll(const PairSums& sums, ConstPairs table, std::size_t rows, std::
                   matrix.columns, matrix.columns, result);
 }
 
+// The sum of the squares of the orthonormal polynomials at place i of a block. Doubles do where little of 1 is taken by
+// it: pairs are for what is left of 1.
+Pair leverageAt(const PairList& orthonormal, std::size_t terms, std::size_t i) {
+  double rough = 0.0;
+  for (std::size_t j = 0; j < terms; ++j) {
+    const double one = orthonormal.high[j * kMostDotted + i];
+    rough += one * one;
+  }
+  if (rough < 0.5) return rough;
+  Pair leverage;
+  for (std::size_t j = 0; j < terms; ++j) {
+    const Pair one(orthonormal.high[j * kMostDotted + i], orthonormal.low[j * kMostDotted + i]);
+    leverage = leverage + one * one;
+  }
+  return leverage;
+}
+
 void visitLongAxis(const ProblemData& data, const Decomposition& decomposition, const AnalysisOptions& options,
                    const VisitResidual& visit) {
   const PairSums& sums = pairSums(options.instructionSet);
   const FunctionValues function = functionValues(*data.function, data.reading, sums);
   const AxisBasis& basis = decomposition.axis[0];
   const PairMatrix toOrthonormal = transposed(basis.inverse);
-  PairList orthonormal(kMostDotted * basis.terms), values(kMostDotted);
+  PairMatrix solution(basis.terms, 1);
+  for (std::size_t j = 0; j < basis.terms; ++j) solution(j, 0) = decomposition.z.at(j);
+  PairList orthonormal(kMostDotted * basis.terms), estimates(kMostDotted), values(kMostDotted);
   forEachBlock(data.axis[0], basis, sums, [&](std::size_t first, std::size_t count, ConstPairs polynomials) {
     goOn(options);
     if (options.progress) options.progress(static_cast<double>(first) / static_cast<double>(data.axis[0].count));
     contractAll(sums, polynomials, basis.terms, kMostDotted, toOrthonormal, orthonormal);
+    contractAll(sums, Pairs(orthonormal), basis.terms, kMostDotted, solution, estimates);
     std::copy_n(function.values + first, count, values.high.begin());
     finishBlock(function, sums, values, count);
     for (std::size_t i = 0; i < count; ++i) {
-      Pair residual(values.high[i], values.low[i]), leverage;
-      for (std::size_t j = 0; j < basis.terms; ++j) {
-        const Pair one(orthonormal.high[j * kMostDotted + i], orthonormal.low[j * kMostDotted + i]);
-        residual = residual - one * decomposition.z.at(j);
-        leverage = leverage + one * one;
-      }
-      visit(residual, leverage, {static_cast<Long>(first + i), 0, 0, 0});
+      const Pair residual = Pair(values.high[i], values.low[i]) - Pair(estimates.high[i], estimates.low[i]);
+      visit(residual, leverageAt(orthonormal, basis.terms, i), {static_cast<Long>(first + i), 0, 0, 0});
     }
   });
 }
