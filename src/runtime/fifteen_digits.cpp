@@ -41,13 +41,13 @@ std::int64_t rounded(const Halves& sum) {
   return whole + (up ? 1 : 0);
 }
 
-// As the product of doubles would be rounded, but where it is so near to a half that its own rounding, a sixteenth at
-// most below 2^50, could tell.
+// As the product of doubles would be rounded, but where it is so near to a half that its own rounding could tell.
 std::int64_t roundedProduct(double a, double b) {
-  constexpr double certain = 0.5 - 0x1p-4;
+  constexpr double mostRounding = 0x1p-4;  // below 2^50
   const double product = a * b;
-  const auto nearest = static_cast<std::int64_t>(product + 0.5);
-  if (std::fabs(product - static_cast<double>(nearest)) < certain) return nearest;
+  const auto whole = static_cast<std::int64_t>(product);
+  const double beyondHalf = (product - static_cast<double>(whole)) - 0.5;
+  if (std::fabs(beyondHalf) > mostRounding) return whole + (beyondHalf > 0.0 ? 1 : 0);
   return rounded(exactProduct(a, b));
 }
 
@@ -58,8 +58,9 @@ constexpr std::array<double, 20> kPowersFromTenThousandth = {
 int decimalExponent(double magnitude) {
   const int binary = static_cast<int>(std::bit_cast<std::uint64_t>(magnitude) >> 52) - 1023;
   const int least = (binary * 78913) >> 18;  // times log10 2, rounded down
-  const double next = kPowersFromTenThousandth[static_cast<std::size_t>(least + 1 + 4)];
-  return least + (magnitude >= next ? 1 : 0);
+  const int next = least + 1;
+  const int place = next + 4;
+  return magnitude >= kPowersFromTenThousandth[static_cast<std::size_t>(place)] ? next : least;
 }
 
 constexpr auto kPairsOfDigits = [] {
