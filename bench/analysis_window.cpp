@@ -83,6 +83,7 @@ void measureStep(const frmAnalysis& analysis, const QString& name, int k) {
   auto* slider = page->findChild<QSlider*>(QStringLiteral("sldAt(%1)").arg(k));
   if (!slider->isVisible()) return;
   std::vector<double> times;
+  times.reserve(kSteps);
   for (int run = 0; run < kSteps; ++run)
     times.push_back(1e3 * processorSecondsOf([&] {
                       QTest::keyClick(slider, run % 2 == 0 ? Qt::Key_Right : Qt::Key_Left);

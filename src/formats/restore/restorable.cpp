@@ -21,6 +21,8 @@ namespace {
 
 constexpr std::size_t kMostUnsaved = 50;  // who always closes without saving shall not fill the disk
 
+std::string within(const std::string& folder, const std::string& name) { return folder + '/' + name; }
+
 std::vector<std::string> namesIn(const std::string& folder) {
   std::vector<std::string> names;
   if (!isOwnFolder(folder)) return names;
@@ -49,7 +51,7 @@ std::optional<Restorable> leftBy(const std::string& session) {
     return std::make_tuple(a.size(), a) > std::make_tuple(b.size(), b);
   });
   for (const std::string& name : names)
-    if (auto left = restorableIn(session + '/' + name, KeptKind::Unsaved)) {
+    if (auto left = restorableIn(within(session, name), KeptKind::Unsaved)) {
       left->end = sessionEnd(session, left->description.systemRun);
       return left;
     }
@@ -90,9 +92,11 @@ std::vector<Restorable> unsavedProblems(const std::string& stateFolder) {
 std::vector<Restorable> replacedPairs(const std::string& stateFolder) {
   std::vector<Restorable> all;
   const std::string replaced = replacedFolder(stateFolder);
-  for (const std::string& file : namesIn(replaced))
-    for (const std::string& time : namesIn(replaced + '/' + file))
-      if (auto pair = restorableIn(replaced + '/' + file + '/' + time, KeptKind::Replaced)) all.push_back(*pair);
+  for (const std::string& file : namesIn(replaced)) {
+    const std::string ofFile = within(replaced, file);
+    for (const std::string& time : namesIn(ofFile))
+      if (auto pair = restorableIn(within(ofFile, time), KeptKind::Replaced)) all.push_back(*pair);
+  }
   std::sort(all.begin(), all.end(), [](const Restorable& a, const Restorable& b) {
     return a.description.file != b.description.file ? a.description.file < b.description.file : a.folder > b.folder;
   });

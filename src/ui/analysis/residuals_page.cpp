@@ -1,5 +1,7 @@
 #include "ui/analysis/residuals_page.h"
 
+#include <utility>
+
 #include "analysis/pictures/round_numbers.h"
 #include "ui/controls/fonts.h"
 #include "ui/pictures/drawings.h"
@@ -8,7 +10,7 @@ namespace tavimor {
 
 ResidualsPage::ResidualsPage(AnalysisLink& link, std::shared_ptr<ShownFits> fits)
     : PicturePage(QStringLiteral("pagResiduals"), QStringLiteral("&Residuals"), QStringLiteral("picResiduals"), link,
-                  fits) {
+                  std::move(fits)) {
   cboVariable = addChoice("cboVariable", "Agai&nst");
   choices().addStretch(1);
   lstLargest = new QListView;
