@@ -25,6 +25,12 @@ std::optional<Long> axisWithoutRoom(const Problem& problem) {
   return std::nullopt;
 }
 
+// Beside the caller's work where that pays, else when its result is asked for.
+template <class Work>
+auto startWhereItPays(bool pays, const Work& work) {
+  return pays ? startBeside(work) : std::async(std::launch::deferred, work);
+}
+
 // The normal matrices need nothing of the right-hand side. Those of long axes are made beside it, in threads of their
 // own, the others when they are asked for.
 std::vector<std::future<Gram>> normalMatrices(const Problem& problem, const FitOptions& options) {
@@ -34,7 +40,7 @@ std::vector<std::future<Gram>> normalMatrices(const Problem& problem, const FitO
     const double terms = problem.Degree[k] + 1.0;
     const bool pays = options.threads != 1 && problem.LastPoint[k] * terms * terms > workWorthAThread;
     const auto work = [&problem, k, &options] { return normalMatrix(problem, k, options); };
-    matrices.push_back(pays ? startBeside(work) : std::async(std::launch::deferred, work));
+    matrices.push_back(startWhereItPays(pays, work));
   }
   return matrices;
 }
@@ -90,7 +96,7 @@ std::future<double> sumGivenBeside(const Problem& problem, const FitOptions& opt
   constexpr std::size_t pointsWorthAThread = 500000;
   const auto sum = [&problem] { return sumOfGiven(problem.F); };
   const bool pays = options.threads != 1 && problem.LastVar == 0 && problem.F.size() > pointsWorthAThread;
-  return pays ? startBeside(sum) : std::async(std::launch::deferred, sum);
+  return startWhereItPays(pays, sum);
 }
 
 // The statistics, and the fitted values that they rest on where these are kept.

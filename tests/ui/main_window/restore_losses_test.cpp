@@ -31,6 +31,15 @@ class RestoreLosses : public RestoreTest {
     open("problem");
   }
 
+  // Opens the latest pair that saves have replaced; they have replaced those of this file alone.
+  void restoreReplacedPairOf(const QString& name) {
+    restore("Open a copy", [&name](QDialog& dialog) {
+      ASSERT_EQ(list(dialog).topLevelItemCount(), 1);
+      EXPECT_EQ(list(dialog).topLevelItem(0)->text(0), name);
+      list(dialog).setCurrentItem(list(dialog).topLevelItem(0)->child(0));
+    });
+  }
+
   // The upper limit of the first variable in the preview of what is listed as the N-th of the first file.
   static QString previewOfReplaced(QDialog& dialog, int n) {
     list(dialog).setCurrentItem(list(dialog).topLevelItem(0)->child(n));
@@ -46,11 +55,7 @@ TEST_F(RestoreLosses, ThePairThatASaveAsReplacedWhenItWasCalledOff) {
   activate();
   ASSERT_EQ(test::stored(file("problem")).UpperLimit[0], 9);
   startAnew();
-  restore("Open a copy", [](QDialog& dialog) {
-    ASSERT_EQ(list(dialog).topLevelItemCount(), 1);
-    EXPECT_EQ(list(dialog).topLevelItem(0)->text(0), "problem");
-    list(dialog).setCurrentItem(list(dialog).topLevelItem(0)->child(0));
-  });
+  restoreReplacedPairOf("problem");
   EXPECT_EQ(textOf("txtUL(0)"), "5");
   EXPECT_EQ(model.FileName, "");
   EXPECT_EQ(test::stored(file("problem")).UpperLimit[0], 9);
@@ -69,11 +74,7 @@ TEST_F(RestoreLosses, ThePairFunctionThatASecondSaveAfterAnAdditionReplaced) {
   EXPECT_EQ(test::stored(file("FUNCTION")).UpperLimit[0], 9);
   EXPECT_EQ(test::stored(file("problem")).LastPoint[0], 2) << "the file that was opened";
   startAnew();
-  restore("Open a copy", [](QDialog& dialog) {
-    ASSERT_EQ(list(dialog).topLevelItemCount(), 1);
-    EXPECT_EQ(list(dialog).topLevelItem(0)->text(0), "FUNCTION");
-    list(dialog).setCurrentItem(list(dialog).topLevelItem(0)->child(0));
-  });
+  restoreReplacedPairOf("FUNCTION");
   EXPECT_EQ(textOf("txtUL(0)"), "5");
   EXPECT_EQ(textOf("txtPoints(0)"), "4");
 }
