@@ -44,17 +44,13 @@ void requireRoom(const InputFile& file, const PerVariable<Long>& last, const std
               "room for " + std::to_string(file.mostFieldsLeft()) + " at most");
 }
 
-void requireMiddle(const InputFile& file, double lowerLimit, double upperLimit) {
-  if (!hasMiddle(lowerLimit, upperLimit))
-    file.refuse("a number as the centre of expansion, since the limits have no middle", "\"*\"");
-}
-
 std::string readRecord(InputFile& file, Problem& problem, Long v) {
   problem.VarName[v] = file.readText("the name of a variable");
   problem.LowerLimit[v] = file.readDouble("the lower limit");
   problem.UpperLimit[v] = file.readDouble("the upper limit");
   std::string centre = file.readText("the centre of expansion");
-  if (centre == "*") requireMiddle(file, problem.LowerLimit[v], problem.UpperLimit[v]);
+  if (!givesCentre(centre, problem.LowerLimit[v], problem.UpperLimit[v]))
+    file.refuse("a number as the centre of expansion, since the limits have no middle", "\"*\"");
   problem.Centre[v] = centreFromText(centre, problem.LowerLimit[v], problem.UpperLimit[v]);
   problem.PeriodFlag[v] = file.readBoolean("the period flag");
   const std::string period = file.readText("the period");

@@ -24,7 +24,9 @@ void SetDisplayedSpecs(const Problem& problem, AllSpecFields& fields) {
   }
 }
 
-bool hasMiddle(double lowerLimit, double upperLimit) { return std::isfinite(middle(lowerLimit, upperLimit)); }
+bool givesCentre(const std::string& text, double lowerLimit, double upperLimit) {
+  return text != "*" || std::isfinite(middle(lowerLimit, upperLimit));
+}
 
 double centreFromText(const std::string& text, double lowerLimit, double upperLimit) {
   return text == "*" ? inRange(middle(lowerLimit, upperLimit)) : Val(text);

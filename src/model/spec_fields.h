@@ -26,8 +26,8 @@ using AllSpecFields = PerVariable<SpecFields>;
 /// reader of a problem and the user put it there as it stands.
 void SetDisplayedSpecs(const Problem& problem, AllSpecFields& fields);
 
-/// True where the middle of the limits is within the range of a double.
-bool hasMiddle(double lowerLimit, double upperLimit);
+/// False for "*" where the middle of the limits is beyond the range of a double: then the text gives no centre.
+bool givesCentre(const std::string& text, double lowerLimit, double upperLimit);
 
 /// The centre that a text gives for an interval: the middle for exactly "*", else the text's Val.
 /// Errors: Overflow for the middle of limits that have none.

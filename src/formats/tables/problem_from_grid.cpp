@@ -58,8 +58,7 @@ void setDegrees(Problem& problem, const std::vector<Long>& degrees, std::vector<
 
 std::optional<TableFinding> findingAboutCentre(const Problem& problem, Long k, const std::string& text) {
   if (text != "*" && !cellNumber(text, DecimalMark::Point)) return centreIsNoNumber(text);
-  if (text == "*" && !hasMiddle(problem.LowerLimit[k], problem.UpperLimit[k]))
-    return limitsHaveNoMiddle(problem.VarName[k]);
+  if (!givesCentre(text, problem.LowerLimit[k], problem.UpperLimit[k])) return limitsHaveNoMiddle(problem.VarName[k]);
   return std::nullopt;
 }
 
