@@ -5,7 +5,9 @@
 #include <QBuffer>
 #include <QPdfWriter>
 #include <QPrinter>
+#ifdef TAVIMOR_SVG
 #include <QSvgGenerator>
+#endif
 #include <algorithm>
 
 #include "formats/replaced_file.h"
@@ -37,6 +39,7 @@ QByteArray png(Picture& paper, const QSize& size) {
   return bytes;
 }
 
+#ifdef TAVIMOR_SVG
 QByteArray svg(Picture& paper, const QSize& size) {
   QByteArray bytes;
   QBuffer buffer(&bytes);
@@ -49,6 +52,7 @@ QByteArray svg(Picture& paper, const QSize& size) {
   draw(paper, generator, size, 1.0);
   return bytes;
 }
+#endif
 
 QByteArray pdf(Picture& paper, const QSize& size) {
   constexpr double kPointsPerInch = 72.0;
@@ -64,26 +68,47 @@ QByteArray pdf(Picture& paper, const QSize& size) {
   return bytes;
 }
 
+struct Form {
+  PictureFormat format;
+  const char* ending;
+  QByteArray (*file)(Picture& paper, const QSize& size);
+};
+
+constexpr Form kForms[] = {{PictureFormat::Png, "png", png},
+#ifdef TAVIMOR_SVG
+                           {PictureFormat::Svg, "svg", svg},
+#endif
+                           {PictureFormat::Pdf, "pdf", pdf}};
+
 }  // namespace
+
+std::vector<std::string> pictureEndings() {
+  std::vector<std::string> endings;
+  for (const Form& form : kForms) endings.emplace_back(form.ending);
+  return endings;
+}
+
+std::string pictureEndingsText() {
+  const std::vector<std::string> endings = pictureEndings();
+  std::string text = "." + endings.front();
+  for (std::size_t n = 1; n < endings.size(); ++n) text += (n + 1 < endings.size() ? ", ." : " or .") + endings[n];
+  return text;
+}
 
 std::optional<PictureFormat> pictureFormatOf(std::string_view path) {
   const std::size_t dot = path.rfind('.');
   std::string ending(dot == std::string_view::npos ? std::string_view() : path.substr(dot + 1));
   std::transform(ending.begin(), ending.end(), ending.begin(),
                  [](char c) { return c >= 'A' && c <= 'Z' ? c + 32 : c; });
-  if (ending == "png") return PictureFormat::Png;
-  if (ending == "svg") return PictureFormat::Svg;
-  if (ending == "pdf") return PictureFormat::Pdf;
+  for (const Form& form : kForms)
+    if (ending == form.ending) return form.format;
   return std::nullopt;
 }
 
 QByteArray pictureFile(const Picture& picture, PictureFormat format, const QSize& size) {
   const std::unique_ptr<Picture> paper = picture.onPaper();
-  switch (format) {
-    case PictureFormat::Png: return png(*paper, size);
-    case PictureFormat::Svg: return svg(*paper, size);
-    case PictureFormat::Pdf: return pdf(*paper, size);
-  }
+  for (const Form& form : kForms)
+    if (form.format == format) return form.file(*paper, size);
   return {};
 }
 

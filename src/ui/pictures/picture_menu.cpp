@@ -21,21 +21,32 @@ namespace {
 void copy(const Picture& picture) {
   auto* data = new QMimeData;
   data->setImageData(QImage::fromData(pictureFile(picture, PictureFormat::Png), "PNG"));
-  data->setData(QStringLiteral("image/svg+xml"), pictureFile(picture, PictureFormat::Svg));
+  const QByteArray drawing = pictureFile(picture, PictureFormat::Svg);
+  if (!drawing.isEmpty()) data->setData(QStringLiteral("image/svg+xml"), drawing);
   QGuiApplication::clipboard()->setMimeData(data);
+}
+
+// "PNG (*.png)"
+QStringList nameFilters() {
+  QStringList filters;
+  for (const std::string& ending : pictureEndings()) {
+    const QString small = QString::fromStdString(ending);
+    filters << small.toUpper() + QStringLiteral(" (*.") + small + u')';
+  }
+  return filters;
 }
 
 void saveAs(Picture& picture) {
   QFileDialog dialog(picture.window(), QStringLiteral("Save picture"));
   dialog.setAcceptMode(QFileDialog::AcceptSave);
-  dialog.setNameFilters({QStringLiteral("PNG (*.png)"), QStringLiteral("SVG (*.svg)"), QStringLiteral("PDF (*.pdf)")});
+  dialog.setNameFilters(nameFilters());
   dialog.setDefaultSuffix(QStringLiteral("png"));
   QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog,
                    [&](const QString& filter) { dialog.setDefaultSuffix(filter.left(3).toLower()); });
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return;
   const std::string path = dialog.selectedFiles().constFirst().toStdString();
   if (!pictureFormatOf(path)) {
-    showWarning(QStringLiteral("A picture is saved as .png, .svg or .pdf."));
+    showWarning(QString::fromStdString("A picture is saved as " + pictureEndingsText() + "."));
     return;
   }
   try {

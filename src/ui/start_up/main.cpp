@@ -21,6 +21,7 @@
 #include "ui/start_up/SubMain.h"
 #include "ui/start_up/display_check.h"
 #ifdef TAVIMOR_PICTURES
+#include "ui/pictures/picture_file.h"
 #include "ui/start_up/picture_command.h"
 #endif
 #include "ui/start_up/toolkit_options.h"
@@ -58,7 +59,9 @@ int answer(const std::string& text) {
 void addPictureOptions(CLI::App& app, PictureRequest& request) {
   CLI::Option* picture = app.add_option("--picture", request.kind, "Write a picture and open no window")
                              ->option_text("section|map|residuals|degrees");
-  app.add_option("-o,--output", request.output, "its file: .png, .svg or .pdf")->option_text("FILE")->needs(picture);
+  app.add_option("-o,--output", request.output, "its file: " + pictureEndingsText())
+      ->option_text("FILE")
+      ->needs(picture);
   app.add_option("--x", request.x, "the variable along which it runs")->option_text("NAME")->needs(picture);
   app.add_option("--at", request.at, "where another variable is held; may be repeated")
       ->option_text("NAME=VALUE")

@@ -26,7 +26,7 @@ void requireKindAndFormat(const PictureRequest& request) {
   if (request.problem.empty()) throw WrongRequest("PROBLEM is required");
   if (request.output.empty()) throw WrongRequest("--output is required");
   if (!pictureFormatOf(request.output))
-    throw WrongRequest("--output: \"" + withEscapes(request.output) + "\" ends in none of .png, .svg, .pdf");
+    throw WrongRequest("--output: \"" + withEscapes(request.output) + "\" does not end in " + pictureEndingsText());
 }
 
 // The toolkit's platform without a display.

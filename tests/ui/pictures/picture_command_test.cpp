@@ -42,7 +42,7 @@ TEST_F(PictureCommand, WrongRequestsAreOneLineAndStatusTwo) {
   const std::string file = folder / "picture.png";
   const std::pair<std::vector<std::string>, std::string> wrong[] = {
       {{"--picture", "tree", "-o", file, kExample}, "is none of section, map, residuals, degrees"},
-      {{"--picture", "map", "-o", folder / "picture.gif", kExample}, "ends in none of .png, .svg, .pdf"},
+      {{"--picture", "map", "-o", folder / "picture.gif", kExample}, "does not end in .png, .svg or .pdf"},
       {{"--picture", "map", kExample}, "--output is required"},
       {{"--picture", "map", "-o", file}, "PROBLEM is required"},
       {{"--picture", "map", "-o", file, "--x", "q", kExample}, "--x: there is no variable \"q\""},
