@@ -1,5 +1,5 @@
 #!/bin/bash
-# Builds for Windows, once, the libraries that tavimor-cli and the tests need, from Debian's source packages in the
+# Builds for Windows, once, the libraries that the programs and their tests need, from Debian's source packages in the
 # versions of this system. What is there already is left alone: a run that was interrupted goes on where it stood.
 # Usage: libraries.sh.
 set -euo pipefail
@@ -54,6 +54,7 @@ from_source() {
   done
 }
 sources() { from_source zlib muparser libxlsxwriter libcsv gmp; }
+window_sources() { from_source qt6-base qcustomplot; }
 
 # install_with_cmake SOURCE BUILD [OPTION...]
 install_with_cmake() {
@@ -106,6 +107,21 @@ gmp() {
   make install
 }
 
+# What no window of ours uses is left out. Debian's source has no header for tablets.
+qt() {
+  local off
+  off=$(printf -- '-DFEATURE_%s=OFF ' network sql dbus xml testlib vulkan opengl opengl_dynamic direct2d1_1 icu \
+    tabletevent graphicsview mdiarea wizard textodfwriter textmarkdownreader textmarkdownwriter jpeg gif qmake \
+    androiddeployqt macdeployqt windeployqt pkg_config system_zlib system_png system_freetype system_harfbuzz \
+    system_pcre2 system_doubleconversion)
+  # shellcheck disable=SC2086
+  install_with_cmake "$folder/sources/qt6-base" qt -DQT_HOST_PATH=/usr \
+    -DQT_HOST_PATH_CMAKE_DIR="/usr/lib/$(dpkg-architecture -qDEB_HOST_MULTIARCH)/cmake" \
+    -DQT_QMAKE_TARGET_MKSPEC=win32-g++ -DINPUT_opengl=no -DQT_BUILD_EXAMPLES=OFF -DQT_BUILD_TESTS=OFF $off
+}
+
+qcustomplot() { install_with_cmake "$folder/sources/qcustomplot" qcustomplot -DUSE_QT_VERSION=6; }
+
 step package_lists "reading the list of source packages: seconds"
 step headers "copying headers that need no building: seconds"
 step googletest "building googletest: a minute"
@@ -115,3 +131,6 @@ step muparser "building muparser: a minute"
 step libxlsxwriter "building libxlsxwriter: seconds"
 step libcsv "building libcsv: seconds"
 step gmp "building GMP: three minutes"
+step window_sources "fetching the sources of Qt and QCustomPlot, 50 MB: a minute"
+step qt "building Qt, once: 35 minutes on two idle cores"
+step qcustomplot "building QCustomPlot: a minute"
