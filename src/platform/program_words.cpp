@@ -28,7 +28,8 @@ std::vector<std::string> programWords(int argc, char** argv) {
 }
 
 void carryBytesOnStandardStreams() {
-  for (std::FILE* stream : {stdin, stdout, stderr}) _setmode(_fileno(stream), _O_BINARY);
+  for (std::FILE* stream : {stdin, stdout, stderr})
+    if (_fileno(stream) >= 0) _setmode(_fileno(stream), _O_BINARY);  // a program with windows may have none
   SetConsoleOutputCP(CP_UTF8);
 }
 

@@ -1,5 +1,6 @@
 #include "ui/controls/application.h"
 
+#include <QFontInfo>
 #include <QIcon>
 #include <QPalette>
 #include <clocale>
@@ -7,6 +8,7 @@
 
 #include "runtime/run_time_error.h"
 #include "ui/controls/error_box.h"
+#include "ui/controls/fonts.h"
 
 namespace tavimor {
 
@@ -31,6 +33,14 @@ QIcon programIcon() {
   return icon;
 }
 
+#ifdef Q_OS_WIN
+// Wine has none of the fonts that it names for windows, menus and messages.
+void replaceMissingFonts() {
+  for (const char* where : {"QWidget", "QMenu", "QMenuBar", "QMessageBox", "QTipLabel"})
+    if (!QFontInfo(QApplication::font(where)).exactMatch()) QApplication::setFont(sansSerifFont(), where);
+}
+#endif
+
 }  // namespace
 
 Application::Application(int& argc, char** argv)
@@ -38,6 +48,9 @@ Application::Application(int& argc, char** argv)
   setApplicationName(QStringLiteral("Tavimor"));
   setWindowIcon(programIcon());
   setDesktopFileName(QStringLiteral("tavimor"));  // how a desktop finds the entry that belongs to a window
+#ifdef Q_OS_WIN
+  replaceMissingFonts();
+#endif
   setPalette(withLegibleDisabledText(palette()));
   // The application has set the user's locale; numbers are written with a point everywhere.
   std::setlocale(LC_NUMERIC, "C");

@@ -15,8 +15,13 @@ QFont fontOf(const QStringList& families) {
 }  // namespace
 
 QFont sansSerifFont() {
+#ifdef Q_OS_WIN
+  // MS Sans Serif itself is drawn in pixels there, for two sizes of letters.
+  return fontOf({QStringLiteral("Microsoft Sans Serif"), QStringLiteral("Arial"), QStringLiteral("Liberation Sans")});
+#else
   return fontOf(
       {QStringLiteral("MS Sans Serif"), QStringLiteral("Microsoft Sans Serif"), QApplication::font().family()});
+#endif
 }
 
 QFont verdanaFont() {

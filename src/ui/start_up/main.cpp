@@ -128,6 +128,7 @@ Arguments parse(std::vector<std::string> words) {
 }  // namespace
 
 int main(int argc, char** argv) {
+  carryBytesOnStandardStreams();
   reportFileSizeLimitAsError();
   const Arguments arguments = parse(withoutToolkitOptions(programWords(argc, argv)));
   if (arguments.exitCode) return *arguments.exitCode;

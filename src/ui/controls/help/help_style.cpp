@@ -16,7 +16,7 @@ constexpr char kStyle[] = R"(
   h1 { color: %3; margin-top: 30px; margin-bottom: 10px; }
   h2 { color: %3; margin-top: 22px; margin-bottom: 6px; }
   h3 { margin-top: 16px; margin-bottom: 4px; }
-  code, pre { font-family: %1; }
+  code, pre, kbd { font-family: %1; }
   pre { margin-top: 8px; margin-bottom: 8px; -qt-block-indent: 1; white-space: pre-wrap; }
   kbd { font-weight: bold; }
   table { border: 1px solid %4; border-collapse: collapse; margin-top: 8px; margin-bottom: 12px; }

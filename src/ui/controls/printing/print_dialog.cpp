@@ -3,6 +3,10 @@
 #include <QApplication>
 #include <QPrintDialog>
 #include <QPrinter>
+#ifdef Q_OS_WIN
+#include <QFileDialog>
+#include <QPrinterInfo>
+#endif
 
 namespace tavimor {
 
@@ -36,12 +40,31 @@ class PrintTarget {
   QPageLayout layout_;
 };
 
+#ifdef Q_OS_WIN
+// The dialog of Windows knows printers alone, so a system without one is asked for a file.
+DialogEnd choosePdf(QPrinter& printer) {
+  QFileDialog dialog(QApplication::activeWindow(), QStringLiteral("Print to PDF"));
+  dialog.setAcceptMode(QFileDialog::AcceptSave);
+  dialog.setNameFilter(QStringLiteral("PDF (*.pdf)"));
+  dialog.setDefaultSuffix(QStringLiteral("pdf"));
+  dialog.selectFile(printer.docName());
+  if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return DialogEnd::Cancelled;
+  printer.setOutputFormat(QPrinter::PdfFormat);
+  printer.setOutputFileName(dialog.selectedFiles().constFirst());
+  return DialogEnd::Confirmed;
+}
+#endif
+
 }  // namespace
 
 DialogEnd choosePrinter(QPrinter& printer) {
   printer.setPageRanges({});
   printer.setPrintRange(QPrinter::AllPages);
   printer.setCopyCount(1);
+#ifdef Q_OS_WIN
+  if (QPrinterInfo::availablePrinterNames().isEmpty()) return choosePdf(printer);
+  printer.setOutputFormat(QPrinter::NativeFormat);
+#endif
   PrintTarget before(printer);
   QPrintDialog dialog(&printer, QApplication::activeWindow());
   before.putBack();
