@@ -195,7 +195,7 @@ bool InputFile::readBoolean(const char* item) {
 void InputFile::readDoubles(const char* item, std::span<double> numbers) {
   while (!numbers.empty()) {
     if (last_ - at_ < kUsualFieldBytes) fill();
-    const PrintLines lines = readPrintLines(at_, last_, numbers);
+    const PrintLines lines = readPrintLines(window_.data(), at_, last_, numbers);
     at_ = lines.end;
     line_ += static_cast<long>(lines.count);
     numbers = numbers.subspan(lines.count);

@@ -1,18 +1,15 @@
 #pragma once
 
-#include <cstddef>
 #include <span>
 
-namespace tavimor {
+#include "runtime/decimal_lines.h"
 
-struct PrintLines {
-  const char* end;    // of the last line that was read
-  std::size_t count;  // of lines
-};
+namespace tavimor {
 
 /// Reads the lines from `first` on that hold one number each exactly as OutputFile prints it, as many as `numbers` has
 /// places at most. Ends before the first line of any other form and before one that `last` cuts off. This is the fast
 /// way through the long stretches of a values file.
-PrintLines readPrintLines(const char* first, const char* last, std::span<double> numbers);
+/// The text begins at `before`, which may be `first`: numbers are read the faster for what stands there.
+PrintLines readPrintLines(const char* before, const char* first, const char* last, std::span<double> numbers);
 
 }  // namespace tavimor
