@@ -25,12 +25,6 @@ std::optional<Long> axisWithoutRoom(const Problem& problem) {
   return std::nullopt;
 }
 
-// Beside the caller's work where that pays, else when its result is asked for.
-template <class Work>
-auto startWhereItPays(bool pays, const Work& work) {
-  return pays ? startBeside(work) : std::async(std::launch::deferred, work);
-}
-
 // The normal matrices need nothing of the right-hand side. Those of long axes are made beside it, in threads of their
 // own, the others when they are asked for.
 std::vector<std::future<Gram>> normalMatrices(const Problem& problem, const FitOptions& options) {
@@ -40,7 +34,7 @@ std::vector<std::future<Gram>> normalMatrices(const Problem& problem, const FitO
     const double terms = problem.Degree[k] + 1.0;
     const bool pays = options.threads != 1 && problem.LastPoint[k] * terms * terms > workWorthAThread;
     const auto work = [&problem, k, &options] { return normalMatrix(problem, k, options); };
-    matrices.push_back(startWhereItPays(pays, work));
+    matrices.push_back(pays ? startBeside(work) : std::async(std::launch::deferred, work));
   }
   return matrices;
 }
@@ -90,15 +84,6 @@ void endWithoutRoom(const Problem& problem, Long variable, const FitOptions& opt
   if (!singular) outcome.ErrNumber = static_cast<Long>(ErrorNumber::SubscriptOutOfRange);
 }
 
-// One chain of additions, which waits for each of them. Where the right-hand side takes a single thread, that of one
-// variable, it is made beside it.
-std::future<double> sumGivenBeside(const Problem& problem, const FitOptions& options) {
-  constexpr std::size_t pointsWorthAThread = 500000;
-  const auto sum = [&problem] { return sumOfGiven(problem.F); };
-  const bool pays = options.threads != 1 && problem.LastVar == 0 && problem.F.size() > pointsWorthAThread;
-  return startWhereItPays(pays, sum);
-}
-
 // The statistics, and the fitted values that they rest on where these are kept.
 StatisticsOutcome statisticsOf(const Problem& problem, double sumGiven, const FitOptions& options, Fit& fit) {
   const auto withStrips = [&](const FittedStrip& strips) {
@@ -117,14 +102,14 @@ void fitInto(const Problem& problem, const FitOptions& options, FitOutcome& outc
   for (Long k = 0; k <= problem.LastVar; ++k) requireNormalMatrix(problem.Degree[k]);
   Fit& fit = outcome.fit;
   std::vector<std::future<Gram>> matrices = normalMatrices(problem, options);
-  std::future<double> sumGiven = sumGivenBeside(problem, options);
   fit.Coef = rightHandSide(problem, options);
+  const double sumGiven = fit.Coef(0, 0, 0, 0);  // the sum of F times the term 1
   if (const auto singular = solve(std::move(matrices), options, fit.Coef)) {
     outcome.end = FitEnd::Singular;
     outcome.variable = *singular;
     return;
   }
-  const StatisticsOutcome statistics = statisticsOf(problem, sumGiven.get(), options, fit);
+  const StatisticsOutcome statistics = statisticsOf(problem, sumGiven, options, fit);
   static_cast<Statistics&>(fit) = statistics.figures;
   outcome.ErrNumber = statistics.ErrNumber;
   fit.FitDone = true;

@@ -11,49 +11,20 @@
 
 namespace tavimor {
 
-double sumOfGiven(const Table4& f) {
-  double sum = 0.0;
-  for (std::size_t n = 0; n < f.size(); ++n) sum += f.data()[n];
-  return sum;
-}
-
 namespace {
 
-// Adds points in their order.
-class PointSums {
- public:
-  explicit PointSums(double avgGiven) : avgGiven_(avgGiven) {}
+double square(double x) { return x * x; }
 
-  const GridSums& sums() const { return sums_; }
-
-  // A run of points. The squares are independent of each other, the sums are four chains: apart, both go at their best.
-  void addRun(const double* f, const double* e, std::size_t count) {
-    constexpr std::size_t block = 256;
-    double regression[block], residuals[block], total[block];
-    for (std::size_t first = 0; first < count; first += block) {
-      const std::size_t length = std::min(block, count - first);
-      for (std::size_t n = 0; n < length; ++n) {
-        regression[n] = square(avgGiven_ - e[first + n]);
-        residuals[n] = square(f[first + n] - e[first + n]);
-        total[n] = square(avgGiven_ - f[first + n]);
-      }
-      GridSums sums = sums_;
-      for (std::size_t n = 0; n < length; ++n) {
-        sums.SumEstimated += e[first + n];
-        sums.SumSqRegression += regression[n];
-        sums.SumRes2 += residuals[n];
-        sums.SumSqTotal += total[n];
-      }
-      sums_ = sums;
-    }
+// The sums with further points. They are four chains: what else a point takes is computed while these wait.
+GridSums withPoints(GridSums sums, const double* f, const double* e, std::size_t count, double avgGiven) {
+  for (std::size_t n = 0; n < count; ++n) {
+    sums.SumEstimated += e[n];
+    sums.SumSqRegression += square(avgGiven - e[n]);
+    sums.SumRes2 += square(f[n] - e[n]);
+    sums.SumSqTotal += square(avgGiven - f[n]);
   }
-
- private:
-  static double square(double x) { return x * x; }
-
-  double avgGiven_;
-  GridSums sums_;
-};
+  return sums;
+}
 
 constexpr std::size_t kPointsInLine = 4096;
 
@@ -73,15 +44,15 @@ FittedStrip stripsOf(const Table4& fitGrid) {
 GridSums sumOverGrid(const Table4& f, const FittedStrip& fitted, double avgGiven, const FitOptions& options) {
   const std::size_t n0 = f.extent(0), length = f.size() / n0, width = std::min(stripWidth(f), n0);
   std::vector<double> given(width * length), estimated(width * length);
-  PointSums sums(avgGiven);
+  GridSums sums;
   for (std::size_t first = 0; first < n0; first += width) {
     endIfCalledOff(options);
     const std::size_t points = std::min(width, n0 - first) * length;
     turnStrip(f, first, std::span(given).first(points));
     fitted(first, std::span(estimated).first(points));
-    sums.addRun(given.data(), estimated.data(), points);
+    sums = withPoints(sums, given.data(), estimated.data(), points, avgGiven);
   }
-  return sums.sums();
+  return sums;
 }
 
 StatisticsOutcome fitStatistics(const Table4& f, const FittedStrip& fitted, double sumGiven, Long n,

@@ -9,9 +9,6 @@
 
 namespace tavimor {
 
-/// The sum of the given values: i3 outermost, i0 innermost, one chain.
-double sumOfGiven(const Table4& f);
-
 /// Gives the fitted values of a strip of the grid, turned (model/table_strips.h).
 using FittedStrip = std::function<void(std::size_t first, std::span<double> turned)>;
 FittedStrip stripsOf(const Table4& fitGrid);
@@ -32,7 +29,7 @@ struct StatisticsOutcome {
   Long ErrNumber = 0;
 };
 
-/// The statistics of n points:
+/// The statistics of n points, whose sum of given values is the first number of the right-hand side:
 ///   AvgGiven = sumGiven / n,   AvgEstimated = sum e / n,   SumRes2,
 ///   CorrCoef = sqrt(SumSqRegression / SumSqTotal), not clipped, and 1 where SumSqTotal is exactly 0,
 ///   StdErr   = sqrt(SumRes2 / (n - 2)); the divisor is n - 2 whatever the number of terms.

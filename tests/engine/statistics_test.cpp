@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <numeric>
 
 #include "runtime/run_time_error.h"
 #include "support/problem.h"
@@ -25,8 +26,9 @@ Dimension withFittedValues(const std::vector<double>& given, const std::vector<d
 }
 
 void setStatistics(Dimension& model) {
+  const double sumGiven = std::accumulate(model.F.data(), model.F.data() + model.F.size(), 0.0);
   const StatisticsOutcome outcome =
-      fitStatistics(model.F, stripsOf(model.FitGrid), sumOfGiven(model.F), model.NumGridPoints, model);
+      fitStatistics(model.F, stripsOf(model.FitGrid), sumGiven, model.NumGridPoints, model);
   static_cast<Statistics&>(model) = outcome.figures;
   model.ErrNumber = outcome.ErrNumber;
 }
