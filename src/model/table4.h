@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstddef>
-#include <cstdlib>
 #include <new>
 #include <vector>
 
@@ -11,9 +10,7 @@
 
 namespace tavimor {
 
-/// Memory for tables: a large one comes in large pages where the system has them, since touching each of its small ones
-/// for the first time would take longer than the whole fit. It comes as zeros, so that an element that is made without
-/// a value is one already.
+/// Memory for tables. It comes as zeros, so that an element that is made without a value is one already.
 template <class T>
 struct TableAllocator {
   using value_type = T;
@@ -23,12 +20,11 @@ struct TableAllocator {
   TableAllocator(const TableAllocator<U>&) {}
 
   T* allocate(std::size_t count) {
-    void* memory = std::calloc(count, sizeof(T));
+    void* memory = zeroedMemory(count * sizeof(T));
     if (memory == nullptr) throw std::bad_alloc();
-    preferLargePages(memory, count * sizeof(T));
     return static_cast<T*>(memory);
   }
-  void deallocate(T* memory, std::size_t /*count*/) { std::free(memory); }
+  void deallocate(T* memory, std::size_t count) { releaseMemory(memory, count * sizeof(T)); }
 
   void construct(T* /*element*/) {}
   void construct(T* element, const T& value) { *element = value; }
