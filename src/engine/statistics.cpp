@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "engine/called_off.h"
+#include "engine/lane_sums.h"
 #include "engine/resume_next.h"
 #include "model/table_strips.h"
 #include "runtime/checked_arithmetic.h"
@@ -27,12 +28,15 @@ GridSums withPoints(GridSums sums, const double* f, const double* e, std::size_t
 }
 
 constexpr std::size_t kPointsInLine = 4096;
+constexpr std::size_t kPointsInStrip = 32768;  // of more, touching their memory for the first time costs too much
 
 // One line of points is cut into strips of some length. Of a grid's points a strip holds half at most, so that the
 // strips of the given and of the fitted values together take no more memory than a table does.
 std::size_t stripWidth(const Table4& f) {
-  if (f.extent(0) == f.size()) return kPointsInLine;
-  return std::clamp<std::size_t>(f.extent(0) / 2, 1, kStripWidth);
+  const std::size_t n0 = f.extent(0), length = f.size() / n0;
+  if (length == 1) return std::min(kPointsInLine, n0);
+  const std::size_t widest = kStripWidth * length <= kPointsInStrip ? kStripWidth : kRowsTogether;
+  return std::clamp<std::size_t>(n0 / 2, 1, widest);
 }
 
 }  // namespace
@@ -42,7 +46,7 @@ FittedStrip stripsOf(const Table4& fitGrid) {
 }
 
 GridSums sumOverGrid(const Table4& f, const FittedStrip& fitted, double avgGiven, const FitOptions& options) {
-  const std::size_t n0 = f.extent(0), length = f.size() / n0, width = std::min(stripWidth(f), n0);
+  const std::size_t n0 = f.extent(0), length = f.size() / n0, width = stripWidth(f);
   std::vector<double> given(width * length), estimated(width * length);
   GridSums sums;
   for (std::size_t first = 0; first < n0; first += width) {

@@ -22,17 +22,19 @@ std::size_t bytesToLargePage(const void* memory) {
   return (kLargePage - reinterpret_cast<std::uintptr_t>(memory) % kLargePage) % kLargePage;
 }
 
-// In large pages up to the end where that takes no more than a sixteenth of it.
+// A rest that fills most of a large page takes one, a smaller rest small pages. Below a large page there are none.
 std::size_t mappedBytes(std::size_t bytes) {
   const std::size_t inLargePages = roundedUp(bytes, kLargePage);
-  return inLargePages - bytes <= bytes / 16 ? inLargePages : roundedUp(bytes, kSmallPages);
+  return inLargePages - bytes <= kLargePage / 3 ? inLargePages : roundedUp(bytes, kSmallPages);
 }
+
+bool isMapped(std::size_t bytes) { return mappedBytes(bytes) >= kLargePage; }
 
 }  // namespace
 
 // A mapping can begin anywhere: it is made a page longer, and what stands before and behind the large pages goes.
 void* zeroedMemory(std::size_t bytes) {
-  if (bytes < kLargePage) return std::calloc(bytes, 1);
+  if (!isMapped(bytes)) return std::calloc(bytes, 1);
   const std::size_t wanted = mappedBytes(bytes);
   void* mapping = mmap(nullptr, wanted + kLargePage, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
   if (mapping == MAP_FAILED) return nullptr;
@@ -45,10 +47,10 @@ void* zeroedMemory(std::size_t bytes) {
 }
 
 void releaseMemory(void* memory, std::size_t bytes) {
-  if (bytes < kLargePage)
-    std::free(memory);
-  else
+  if (isMapped(bytes))
     munmap(memory, mappedBytes(bytes));
+  else
+    std::free(memory);
 }
 
 void preferLargePages(void* memory, std::size_t bytes) {

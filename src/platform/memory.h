@@ -5,7 +5,7 @@
 namespace tavimor {
 
 /// Memory whose bytes are zero, and its way back. Much of it comes in large pages where the system has them: touching
-/// each of its small ones for the first time would take longer than most work on it. A sixteenth more may be taken for
+/// each of its small ones for the first time would take longer than most work on it. Up to 0.7 MB more may be taken for
 /// that. Null where there is not so much.
 void* zeroedMemory(std::size_t bytes);
 void releaseMemory(void* memory, std::size_t bytes);

@@ -26,8 +26,8 @@ TEST_P(ZeroedMemory, IsZeroAndCanBeWrittenToItsLastByte) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Sizes, ZeroedMemory,
-                         testing::Values(1, 4096, 2 * kMegabyte - 1, 2 * kMegabyte, 2 * kMegabyte + 1,
-                                         4 * kMegabyte - 4096, 5 * kMegabyte, 32 * kMegabyte - 1));
+                         testing::Values(1, 4096, kMegabyte + 1, 3 * kMegabyte / 2, 2 * kMegabyte - 1, 2 * kMegabyte,
+                                         2 * kMegabyte + 1, 4 * kMegabyte - 4096, 5 * kMegabyte, 32 * kMegabyte - 1));
 
 TEST(MemoryOfLargePages, DoesNotOverlap) {
   std::vector<unsigned char*> owners;
