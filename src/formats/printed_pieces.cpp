@@ -1,5 +1,6 @@
 #include "formats/printed_pieces.h"
 
+#include <array>
 #include <deque>
 #include <future>
 
@@ -8,12 +9,24 @@
 
 namespace tavimor {
 
+namespace {
+
+// Kept from piece to piece: touching new memory for each would take as long as making its text.
+struct Room {
+  std::vector<double> numbers;
+  std::vector<char> text;
+};
+
+}  // namespace
+
 void forEachPrinted(std::size_t pieces, const NumbersOfPiece& numbersOf,
                     const std::function<void(const PrintedPiece&)>& take) {
   constexpr std::size_t atATime = 2;
-  const auto printed = [&numbersOf](std::size_t piece) {
-    const std::vector<double> numbers = numbersOf(piece);
-    return PrintedPiece{printedLines(numbers), numbers.size()};
+  std::array<Room, atATime> rooms;
+  const auto printed = [&](std::size_t piece) {
+    Room& room = rooms[piece % atATime];
+    numbersOf(piece, room.numbers);
+    return PrintedPiece{printedLines(room.numbers, room.text), room.numbers.size()};
   };
   if (pieces == 1) return take(printed(0));
   std::deque<std::future<PrintedPiece>> inWork;

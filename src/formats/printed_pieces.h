@@ -2,15 +2,16 @@
 
 #include <cstddef>
 #include <functional>
-#include <string>
+#include <string_view>
 #include <vector>
 
 namespace tavimor {
 
-using NumbersOfPiece = std::function<std::vector<double>(std::size_t piece)>;
+/// Puts the numbers of a piece in the place of others.
+using NumbersOfPiece = std::function<void(std::size_t piece, std::vector<double>& numbers)>;
 
 struct PrintedPiece {
-  std::string lines;  // Print lines
+  std::string_view lines;  // Print lines, until it has been taken
   std::size_t numbers;
 };
 

@@ -45,10 +45,9 @@ void printPieces(std::size_t pieces, const NumbersOfPiece& numbersOf, OutputFile
 std::size_t piecesOf(std::size_t whole, std::size_t piece) { return (whole + piece - 1) / piece; }
 
 void print(std::span<const double> numbers, OutputFile& file, Count& count) {
-  const auto piece = [&](std::size_t n) {
+  const auto piece = [&](std::size_t n, std::vector<double>& some) {
     const auto from = numbers.subspan(n * kNumbersAtATime);
-    const auto some = from.first(std::min(kNumbersAtATime, from.size()));
-    return std::vector<double>(some.begin(), some.end());
+    some.assign(from.begin(), from.begin() + std::min(std::ssize(from), std::ptrdiff_t{kNumbersAtATime}));
   };
   printPieces(piecesOf(numbers.size(), kNumbersAtATime), piece, file, count);
 }
@@ -66,10 +65,9 @@ void writeSpecification(const Problem& problem, const Fit& fit, OutputFile& file
 // The whole of a few first indices at a time.
 void writeByStrips(const Table4& F, OutputFile& file, Count& count) {
   const std::size_t length = F.size() / F.extent(0), width = kNumbersAtATime / length;
-  const auto strip = [&](std::size_t n) {
-    std::vector<double> turned(std::min(width, F.extent(0) - n * width) * length);
+  const auto strip = [&](std::size_t n, std::vector<double>& turned) {
+    turned.resize(std::min(width, F.extent(0) - n * width) * length);
     turnStrip(F, n * width, turned);
-    return turned;
   };
   printPieces(piecesOf(F.extent(0), width), strip, file, count);
 }

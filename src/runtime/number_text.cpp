@@ -5,7 +5,6 @@
 #include <charconv>
 #include <cmath>
 #include <limits>
-#include <string_view>
 
 #include "runtime/fifteen_digits.h"
 
@@ -84,13 +83,12 @@ std::string printedNumber(double value) {
   return {buffer.data(), putPrinted(value, buffer.data())};
 }
 
-std::string printedLines(std::span<const double> values) {
+std::string_view printedLines(std::span<const double> values, std::vector<char>& room) {
   constexpr std::string_view lineEnd = "\r\n";
-  std::string lines(values.size() * (kMostCharacters + lineEnd.size()), '\0');
-  char* end = lines.data();
+  room.resize(std::max(room.size(), values.size() * (kMostCharacters + lineEnd.size())));
+  char* end = room.data();
   for (const double value : values) end = std::copy(lineEnd.begin(), lineEnd.end(), putPrinted(value, end));
-  lines.resize(static_cast<std::size_t>(end - lines.data()));
-  return lines;
+  return {room.data(), static_cast<std::size_t>(end - room.data())};
 }
 
 std::string printedNumber(Long value) { return inPrintForm(writtenNumber(value)); }

@@ -2,6 +2,8 @@
 
 #include <span>
 #include <string>
+#include <string_view>
+#include <vector>
 
 #include "runtime/long.h"
 
@@ -23,7 +25,7 @@ std::string writtenNumber(Long value);
 std::string printedNumber(double value);
 std::string printedNumber(Long value);
 
-/// Print lines: each number as printedNumber has it, and CR LF.
-std::string printedLines(std::span<const double> values);
+/// Print lines: each number as printedNumber has it, and CR LF. They stand in `room`, which grows where it has to.
+std::string_view printedLines(std::span<const double> values, std::vector<char>& room);
 
 }  // namespace tavimor

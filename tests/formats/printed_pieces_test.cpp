@@ -9,8 +9,13 @@
 namespace tavimor {
 namespace {
 
-std::vector<double> twoNumbers(std::size_t piece) {
-  return {static_cast<double>(piece), static_cast<double>(piece) + 0.5};
+void twoNumbers(std::size_t piece, std::vector<double>& numbers) {
+  numbers = {static_cast<double>(piece), static_cast<double>(piece) + 0.5};
+}
+
+std::string linesOf(std::size_t piece) {
+  const auto number = static_cast<double>(piece);
+  return printedNumber(number) + "\r\n" + printedNumber(number + 0.5) + "\r\n";
 }
 
 TEST(PrintedPieces, ComeInTheirOrder) {
@@ -20,14 +25,26 @@ TEST(PrintedPieces, ComeInTheirOrder) {
       lines += piece.lines;
       EXPECT_EQ(piece.numbers, 2U);
     });
-    for (std::size_t piece = 0; piece < pieces; ++piece) expected += printedLines(twoNumbers(piece));
+    for (std::size_t piece = 0; piece < pieces; ++piece) expected += linesOf(piece);
     EXPECT_EQ(lines, expected) << pieces;
   }
 }
 
+TEST(PrintedPieces, MayHaveMoreAndFewerNumbersThanEarlierOnes) {
+  const auto asMany = [](std::size_t piece, std::vector<double>& numbers) { numbers.assign(piece * 7 % 11, 0.25); };
+  std::size_t piece = 0;
+  forEachPrinted(40, asMany, [&](const PrintedPiece& printed) {
+    const std::size_t numbers = piece++ * 7 % 11;
+    EXPECT_EQ(printed.numbers, numbers);
+    EXPECT_EQ(printed.lines.size(), numbers * std::string_view(" .25 \r\n").size());
+  });
+  EXPECT_EQ(piece, 40U);
+}
+
 TEST(PrintedPieces, WhatCannotBeMadeIsAnErrorOfTheCaller) {
-  const auto failing = [](std::size_t piece) {
-    return piece < 3 ? twoNumbers(piece) : throw std::runtime_error("no memory");
+  const auto failing = [](std::size_t piece, std::vector<double>& numbers) {
+    if (piece >= 3) throw std::runtime_error("no memory");
+    twoNumbers(piece, numbers);
   };
   EXPECT_THROW(forEachPrinted(9, failing, [](const PrintedPiece&) {}), std::runtime_error);
 }

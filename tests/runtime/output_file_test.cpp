@@ -60,7 +60,8 @@ TEST_F(OutputFileBytes, LinesMadeTogetherAreThoseOneByOne) {
   const std::string oneByOne = written([&](OutputFile& file) {
     for (const double number : numbers) file.print(number);
   });
-  EXPECT_TRUE(written([&](OutputFile& file) { file.printLines(printedLines(numbers)); }) == oneByOne);
+  std::vector<char> room;
+  EXPECT_TRUE(written([&](OutputFile& file) { file.printLines(printedLines(numbers, room)); }) == oneByOne);
 }
 
 TEST_F(OutputFileBytes, ManyLinesComeWholeAndInOrder) {
