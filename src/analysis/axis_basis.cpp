@@ -5,6 +5,7 @@
 #include <limits>
 #include <new>
 
+#include "analysis/axis_symmetry.h"
 #include "analysis/cholesky.h"
 #include "runtime/run_time_error.h"
 
@@ -39,16 +40,27 @@ std::vector<double> sampledCoordinates(const AxisData& axis, const AxisFrame& fr
   return sample;
 }
 
-// The polynomials at all values of the axis, one after the other, each `rows` long.
-BasisMagnitudes fillAxis(const AxisData& axis, const PairSums& sums, std::size_t rows, PairList& polynomials,
-                         AxisBasis& basis) {
-  PairList t(rows);
+// The coordinates of all values of the axis. Without shifts in the recurrence the polynomials at values opposite each
+// other are the same or the negative.
+PairList coordinatesOfAxis(const AxisData& axis, const PairSums& sums, AxisBasis& basis) {
+  PairList t(paddedToChains(axis.count));
   basis.exactValues = coordinates(axis, basis.frame, sums, 0, axis.count, t);
-  std::fill_n(polynomials.high.begin(), axis.count, 1.0);
-  BasisMagnitudes magnitudes(axis.terms);
+  // An eighth of what is charged for the coordinates: so much their own rounding can have made of symmetric values.
+  Mirrored found = mirrored(t, axis.count, basis.frame.coordinateError / 8);
+  if (found.values.empty()) return t;
+  basis.mirrored = std::move(found.values);
+  basis.frame.coordinateError += found.moved;
+  for (RecurrenceStep& step : basis.recurrence) step.shift = 0.0;
+  return t;
+}
+
+// The polynomials at all values of the axis, one after the other, each as long as the coordinates.
+BasisMagnitudes fillAxis(PairList& t, const PairSums& sums, PairList& polynomials, const AxisBasis& basis) {
+  std::fill_n(polynomials.high.begin(), basis.count, 1.0);
+  BasisMagnitudes magnitudes(basis.terms);
   for (const double value : t.high)
     magnitudes.largestCoordinate = std::max(magnitudes.largestCoordinate, std::fabs(value));
-  fillPolynomials(basis.recurrence, sums, Pairs(t), rows, polynomials, magnitudes.largest);
+  fillPolynomials(basis.recurrence, sums, Pairs(t), t.high.size(), polynomials, magnitudes.largest);
   return magnitudes;
 }
 
@@ -143,9 +155,10 @@ AxisBasis axisBasis(const AxisData& axis, const AnalysisOptions& options) {
   if (!basis.frame.usable) return basis;
   try {
     basis.recurrence = axisRecurrence(axis, basis.frame, sums);
-    const std::size_t rows = paddedToChains(axis.count);
+    PairList t = coordinatesOfAxis(axis, sums, basis);
+    const std::size_t rows = t.high.size();
     PairList polynomials(rows * axis.terms);
-    const BasisMagnitudes magnitudes = fillAxis(axis, sums, rows, polynomials, basis);
+    const BasisMagnitudes magnitudes = fillAxis(t, sums, polynomials, basis);
     const PairMatrix products = innerProducts(sums, Pairs(polynomials), rows, axis.terms, options);
     orthonormalise(basis, products, sumError(axis.count), magnitudes, options);
     basis.values = valuesByRow(polynomials, rows, axis.count, axis.terms);

@@ -16,9 +16,10 @@ struct AxisBasis {
   std::size_t count = 1, terms = 1;
   AxisFrame frame;
   Recurrence recurrence;
-  PairMatrix values;         // P_j at value i: row i, column j; empty where it was not kept
-  PairMatrix inverse;        // L^-1, lower triangular
-  bool exactValues = false;  // the values of the axis are doubles exactly
+  PairMatrix values;                  // P_j at value i: row i, column j; empty where it was not kept
+  std::vector<std::size_t> mirrored;  // values i: P_j there is (-1)^j times that at count - 1 - i, to the bit
+  PairMatrix inverse;                 // L^-1, lower triangular
+  bool exactValues = false;           // the values of the axis are doubles exactly
 
   /// The relative error that the basis brings into a solution, at most, beside the norm of the function; infinite
   /// where S is not positive definite as far as can be told.

@@ -35,7 +35,9 @@ AxisFrame frameOfListed(const AxisData& axis) {
   const auto [least, most] = std::minmax_element(axis.values.begin(), axis.values.end());
   const double halfWidth = *most / 2 - *least / 2;
   frame.largestValue = std::max(std::fabs(*least), std::fabs(*most));
-  frame.middle = *least + halfWidth;
+  // A double, so that differences with doubles are exact. Of decimals the one next to theirs: most symmetric lists have
+  // symmetric coordinates then.
+  frame.middle = middleOf(valueRead(*least, axis.reading), valueRead(*most, axis.reading)).high;
   if (halfWidth == 0.0) return frame;
   frame.exponent = -exponentAbove(halfWidth);
   // A rounded middle may leave an end a little beyond 1.

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <functional>
+#include <numeric>
+#include <span>
 
 #include "engine/parallel.h"
 
@@ -32,63 +34,165 @@ Lines linesAlong(const PerVariable<std::size_t>& extent, int k) {
 // Some lines and points of a table, the lines side by side; lanes without a line are 0.
 struct Tile {
   std::size_t firstLine, lineCount, lanes;
-  std::size_t firstPoint, pointCount;
+  std::span<const std::size_t> points;
 };
 
-void gather(const Lines& lines, const Tile& tile, const double* from, double* to) {
-  if (tile.lineCount < tile.lanes) std::fill_n(to, tile.pointCount * tile.lanes, 0.0);
-  if (lines.inner == 1) {
-    for (std::size_t line = 0; line < tile.lineCount; ++line) {
-      const double* source = from + lines.place(tile.firstLine + line, tile.firstPoint, lines.length);
-      for (std::size_t p = 0; p < tile.pointCount; ++p) to[p * tile.lanes + line] = source[p];
-    }
-    return;
-  }
+// Calls visit(line, run) for lines of a tile that lie side by side in memory, `run` of them from `line` on.
+template <class Visit>
+void forEachRun(const Lines& lines, const Tile& tile, Visit visit) {
   for (std::size_t line = 0; line < tile.lineCount;) {
-    const std::size_t first = tile.firstLine + line;
-    const std::size_t run = std::min(tile.lineCount - line, lines.inner - first % lines.inner);
-    for (std::size_t p = 0; p < tile.pointCount; ++p)
-      std::copy_n(from + lines.place(first, tile.firstPoint + p, lines.length), run, to + p * tile.lanes + line);
+    const std::size_t run = std::min(tile.lineCount - line, lines.inner - (tile.firstLine + line) % lines.inner);
+    visit(line, run);
     line += run;
   }
 }
 
-void scatter(const Lines& lines, const Tile& tile, const PairList& sums, PairTable& result, std::size_t columns) {
-  for (std::size_t c = 0; c < columns; ++c)
-    for (std::size_t line = 0; line < tile.lineCount; ++line) {
-      const std::size_t from = c * tile.lanes + line;
-      result.set(lines.place(tile.firstLine + line, c, columns), {sums.high[from], sums.low[from]});
-    }
+// Along the first axis no two lines lie side by side.
+void copyRun(const double* from, std::size_t run, double* to) {
+  if (run == 1)
+    *to = *from;
+  else
+    std::copy_n(from, run, to);
+}
+
+void gather(const Lines& lines, const Tile& tile, const double* from, double* to) {
+  const std::size_t pointCount = tile.points.size();
+  if (tile.lineCount < tile.lanes) std::fill_n(to, pointCount * tile.lanes, 0.0);
+  forEachRun(lines, tile, [&](std::size_t line, std::size_t run) {
+    const double* source = from + lines.place(tile.firstLine + line, 0, lines.length);
+    for (std::size_t p = 0; p < pointCount; ++p)
+      copyRun(source + tile.points[p] * lines.inner, run, to + p * tile.lanes + line);
+  });
+}
+
+// Columns of a matrix: every `step`-th from the first one on.
+struct Columns {
+  PairMatrix matrix;
+  std::size_t first = 0, step = 1;
+};
+
+// What a table is contracted with: the rows of a matrix at some points; or, folded, at points of which the first ones
+// have others opposite, which they are added to for the even columns and subtracted from for the odd ones.
+struct Factor {
+  std::vector<std::size_t> points, opposite;
+  std::vector<Columns> parts;
+
+  bool folds() const { return parts.size() == 2; }
+  std::size_t columnCount() const { return parts.front().matrix.columns + (folds() ? parts.back().matrix.columns : 0); }
+};
+
+Factor wholeOf(const PairMatrix& matrix) {
+  Factor factor{std::vector<std::size_t>(matrix.rows), {}, {{matrix}}};
+  std::iota(factor.points.begin(), factor.points.end(), std::size_t{0});
+  return factor;
+}
+
+Columns everyOther(const PairMatrix& matrix, const std::vector<std::size_t>& rows, std::size_t first) {
+  Columns result{PairMatrix(rows.size(), (matrix.columns + 1 - first) / 2), first, 2};
+  for (std::size_t row = 0; row < rows.size(); ++row)
+    for (std::size_t c = 0; c < result.matrix.columns; ++c) result.matrix(row, c) = matrix(rows[row], first + 2 * c);
+  return result;
+}
+
+Factor factorOf(const AxisBasis& basis) {
+  if (basis.mirrored.empty()) return wholeOf(basis.values);
+  Factor factor{basis.mirrored, {}, {}};
+  std::vector<bool> isTaken(basis.count);
+  for (const std::size_t i : basis.mirrored) {
+    factor.opposite.push_back(basis.count - 1 - i);
+    isTaken[i] = isTaken[basis.count - 1 - i] = true;
+  }
+  for (std::size_t i = 0; i < basis.count; ++i)
+    if (!isTaken[i]) factor.points.push_back(i);
+  factor.parts = {everyOther(basis.values, factor.points, 0), everyOther(basis.values, factor.points, 1)};
+  return factor;
 }
 
 // Reads a tile into the block and is told the number of the group of lines that it belongs to.
 using ReadTile = std::function<void(std::size_t group, const Tile& tile, Pairs block)>;
 
-PairTable contractLines(const PerVariable<std::size_t>& extent, int k, const PairMatrix& matrix, const ReadTile& read,
+// The buffers of one thread and what it does with a group of lines.
+class LineGroups {
+ public:
+  LineGroups(const Lines& lines, const Factor& factor, const ReadTile& read, const PairSums& sums, PairTable& result)
+      : lines_(lines), factor_(factor), read_(read), sums_(sums), result_(result) {
+    const std::size_t lanes = std::min(kLinesTogether, paddedToChains(lines.count));
+    for (const Columns& part : factor.parts) {
+      blocks_.emplace_back(std::min(kBlock, factor.points.size()) * lanes);
+      columnSums_.emplace_back(part.matrix.columns * lanes);
+    }
+  }
+
+  void operator()(std::size_t group) {
+    Tile tile{group * kLinesTogether, 0, 0, {}};
+    tile.lineCount = std::min(kLinesTogether, lines_.count - tile.firstLine);
+    tile.lanes = paddedToChains(tile.lineCount);
+    for (PairList& sums : columnSums_) {
+      std::fill(sums.high.begin(), sums.high.end(), 0.0);
+      std::fill(sums.low.begin(), sums.low.end(), 0.0);
+    }
+    for (std::size_t first = 0; first < factor_.points.size(); first += kBlock) {
+      tile.points = partOf(factor_.points, first);
+      read_(group, tile, blocks_[0]);
+      if (factor_.folds()) fold(group, tile, first);
+      for (std::size_t n = 0; n < factor_.parts.size(); ++n) {
+        const PairMatrix& matrix = factor_.parts[n].matrix;
+        sums_.contract(Pairs(blocks_[n]), tile.points.size(), tile.lanes,
+                       matrix.elements.data() + first * matrix.columns, matrix.columns, matrix.columns, columnSums_[n]);
+      }
+    }
+    for (std::size_t n = 0; n < factor_.parts.size(); ++n) scatter(tile, factor_.parts[n], columnSums_[n]);
+  }
+
+ private:
+  static std::span<const std::size_t> partOf(std::span<const std::size_t> points, std::size_t first) {
+    return first < points.size() ? points.subspan(first, std::min(kBlock, points.size() - first)) : points.first(0);
+  }
+
+  // Points that have none opposite are added to 0.
+  void fold(std::size_t group, const Tile& tile, std::size_t first) {
+    Tile opposite = tile;
+    opposite.points = partOf(factor_.opposite, first);
+    if (!opposite.points.empty()) read_(group, opposite, blocks_[1]);
+    const std::size_t count = tile.points.size() * tile.lanes, found = opposite.points.size() * tile.lanes;
+    std::fill_n(Pairs(blocks_[1]).high + found, count - found, 0.0);
+    std::fill_n(Pairs(blocks_[1]).low + found, count - found, 0.0);
+    sums_.sumAndDifference(Pairs(blocks_[0]), Pairs(blocks_[1]), count, blocks_[0], blocks_[1]);
+  }
+
+  void scatter(const Tile& tile, const Columns& part, const PairList& sums) {
+    const std::size_t columns = factor_.columnCount();
+    forEachRun(lines_, tile, [&](std::size_t line, std::size_t run) {
+      for (std::size_t c = 0; c < part.matrix.columns; ++c) {
+        const std::size_t from = c * tile.lanes + line;
+        const std::size_t to = lines_.place(tile.firstLine + line, part.first + c * part.step, columns);
+        copyRun(&sums.high[from], run, &result_.high[to]);
+        copyRun(&sums.low[from], run, &result_.low[to]);
+      }
+    });
+  }
+
+  const Lines& lines_;
+  const Factor& factor_;
+  const ReadTile& read_;
+  const PairSums& sums_;
+  PairTable& result_;
+  std::vector<PairList> blocks_, columnSums_;  // of each part
+};
+
+PairTable contractLines(const PerVariable<std::size_t>& extent, int k, const Factor& factor, const ReadTile& read,
                         const AnalysisOptions& options) {
-  const PairSums& sums = pairSums(options.instructionSet);
   const Lines lines = linesAlong(extent, k);
   PerVariable<std::size_t> resultExtent = extent;
-  resultExtent[k] = matrix.columns;
+  resultExtent[k] = factor.columnCount();
   PairTable result(resultExtent);
   const std::size_t groups = (lines.count + kLinesTogether - 1) / kLinesTogether;
-  const double work = 14.0 * kLinesTogether * static_cast<double>(lines.length * matrix.columns);
+  const double work = 14.0 * kLinesTogether * static_cast<double>(factor.points.size() * resultExtent[k]);
   inParallel(groups, work, options.threads, [&](std::size_t firstGroup, std::size_t endGroup) {
-    PairList block(kBlock * kLinesTogether), columnSums(matrix.columns * kLinesTogether);
+    LineGroups contractGroup(lines, factor, read, pairSums(options.instructionSet), result);
     for (std::size_t group = firstGroup; group < endGroup; ++group) {
       goOn(options);
-      Tile tile{group * kLinesTogether, 0, 0, 0, 0};
-      tile.lineCount = std::min(kLinesTogether, lines.count - tile.firstLine);
-      tile.lanes = paddedToChains(tile.lineCount);
-      std::fill_n(columnSums.high.begin(), matrix.columns * tile.lanes, 0.0);
-      std::fill_n(columnSums.low.begin(), matrix.columns * tile.lanes, 0.0);
-      for (; tile.firstPoint < lines.length; tile.firstPoint += kBlock) {
-        tile.pointCount = std::min(kBlock, lines.length - tile.firstPoint);
-        read(group, tile, block);
-        sums.contract(Pairs(block), tile.pointCount, tile.lanes, &matrix.elements[tile.firstPoint * matrix.columns],
-                      matrix.columns, matrix.columns, columnSums);
-      }
-      scatter(lines, tile, columnSums, result, matrix.columns);
+      contractGroup(group);
       if (options.progress && firstGroup == 0)
         options.progress(static_cast<double>(group + 1) / static_cast<double>(endGroup));
     }
@@ -96,14 +200,12 @@ PairTable contractLines(const PerVariable<std::size_t>& extent, int k, const Pai
   return result;
 }
 
-}  // namespace
-
-PairTable contracted(const PairTable& table, int k, const PairMatrix& matrix, const AnalysisOptions& options) {
+PairTable contractTable(const PairTable& table, int k, const Factor& factor, const AnalysisOptions& options) {
   const Lines lines = linesAlong(table.extent, k);
   AnalysisOptions quietly = options;
   quietly.progress = nullptr;
   return contractLines(
-      table.extent, k, matrix,
+      table.extent, k, factor,
       [&](std::size_t, const Tile& tile, Pairs block) {
         gather(lines, tile, table.high.data(), block.high);
         gather(lines, tile, table.low.data(), block.low);
@@ -111,8 +213,18 @@ PairTable contracted(const PairTable& table, int k, const PairMatrix& matrix, co
       quietly);
 }
 
+}  // namespace
+
+PairTable contracted(const PairTable& table, int k, const PairMatrix& matrix, const AnalysisOptions& options) {
+  return contractTable(table, k, wholeOf(matrix), options);
+}
+
+PairTable contracted(const PairTable& table, int k, const AxisBasis& basis, const AnalysisOptions& options) {
+  return contractTable(table, k, factorOf(basis), options);
+}
+
 FunctionContraction contracted(const FunctionValues& function, const PerVariable<std::size_t>& extent, int k,
-                               const PairMatrix& matrix, const AnalysisOptions& options) {
+                               const AxisBasis& basis, const AnalysisOptions& options) {
   const PairSums& sums = pairSums(options.instructionSet);
   const Lines lines = linesAlong(extent, k);
   // One of each for a group of lines, put together in the order of groups.
@@ -121,10 +233,10 @@ FunctionContraction contracted(const FunctionValues& function, const PerVariable
   std::vector<char> exact(groups, 1);
   FunctionContraction result;
   result.table = contractLines(
-      extent, k, matrix,
+      extent, k, factorOf(basis),
       [&](std::size_t group, const Tile& tile, Pairs block) {
         gather(lines, tile, function.values, block.high);
-        const std::size_t count = tile.pointCount * tile.lanes;
+        const std::size_t count = tile.points.size() * tile.lanes;
         if (!finishBlock(function, sums, block, count)) exact[group] = 0;
         for (std::size_t n = 0; n < count; n += kMostDotted)
           sums.dots(block + n, block + n, 0, 1, std::min(kMostDotted, count - n), squares.from(group));

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "analysis/analysis_options.h"
+#include "analysis/axis_basis.h"
 #include "analysis/function_values.h"
 #include "analysis/pair_table.h"
 
@@ -12,6 +13,10 @@ namespace tavimor {
 /// Errors: OutOfMemory, AnalysisCancelled.
 PairTable contracted(const PairTable& table, int k, const PairMatrix& matrix, const AnalysisOptions& options);
 
+/// The same with the values of a basis. Elements at mirrored values are added and subtracted first and share their
+/// products: half as many are left.
+PairTable contracted(const PairTable& table, int k, const AxisBasis& basis, const AnalysisOptions& options);
+
 /// The same for the function, and what one reading of it tells besides.
 struct FunctionContraction {
   PairTable table;
@@ -19,6 +24,6 @@ struct FunctionContraction {
   bool exactValues = true;  // all are doubles exactly
 };
 FunctionContraction contracted(const FunctionValues& function, const PerVariable<std::size_t>& extent, int k,
-                               const PairMatrix& matrix, const AnalysisOptions& options);
+                               const AxisBasis& basis, const AnalysisOptions& options);
 
 }  // namespace tavimor

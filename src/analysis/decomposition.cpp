@@ -83,10 +83,10 @@ void decomposeTable(const ProblemData& data, const FunctionValues& function, con
   PerVariable<std::size_t> extent{};
   for (int k = 0; k < kMaxVariables; ++k) extent[k] = data.axis[k].count;
   const std::vector<int> order = bestOrder(data);
-  FunctionContraction first = contracted(function, extent, order[0], result.axis[order[0]].values, options);
+  FunctionContraction first = contracted(function, extent, order[0], result.axis[order[0]], options);
   result.z = std::move(first.table);
   for (std::size_t n = 1; n < order.size(); ++n)
-    result.z = contracted(result.z, order[n], result.axis[order[n]].values, options);
+    result.z = contracted(result.z, order[n], result.axis[order[n]], options);
   result.sumOfSquares = first.sumOfSquares;
   result.exactData = first.exactValues;
   for (Long k = 0; k <= data.lastVariable; ++k) result.exactData = result.exactData && result.axis[k].exactValues;

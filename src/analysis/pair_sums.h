@@ -12,7 +12,8 @@ namespace tavimor {
 /// parts. A sum is cut into kChains chains, whatever the registers hold, so every instruction set gives the same bits.
 ///
 /// A chain adds at most kBlock products before it is added to its sum as a pair. Within a block the low parts are added
-/// as doubles, whose rounding is at most 4,096 u^2 of the sum of the products' magnitudes.
+/// as doubles, whose rounding is at most 4,096 u^2 of the sum of the products' magnitudes, also where one factor comes
+/// from sumAndDifference.
 constexpr std::size_t kChains = 8;
 constexpr std::size_t kBlock = 32;
 constexpr std::size_t kMostDotted = kBlock * kChains;
@@ -125,7 +126,9 @@ struct PairSums {
   double (*advanceOnGrid)(const RecurrenceStep& step, const double* t, ConstPairs current, ConstPairs previous,
                           std::size_t count, Pairs next);
 
-  /// sum = a + b and difference = a - b, number by number.
+  /// sum = a + b and difference = a - b, number by number; they may take the place of a and b. The low parts are added
+  /// as doubles and left as they are, at most 2 u (|a| + |b|): chains of products take such numbers. The error is at
+  /// most 3 u^2 (|a| + |b|).
   void (*sumAndDifference)(ConstPairs a, ConstPairs b, std::size_t count, Pairs sum, Pairs difference);
 };
 

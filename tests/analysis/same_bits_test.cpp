@@ -79,6 +79,14 @@ TEST(SameBits, OfTables) {
     }
 }
 
+TEST(SameBits, OfTablesOfListsThatAreSymmetricButForSomeValues) {
+  Dimension model = someProblem({41, 65}, 3, true);
+  model.EquallySpaced = {};
+  model.X1[7] += 1e-14;
+  for (const Reading reading : {Reading::AsTyped, Reading::AsStored})
+    expectSameBitsEverywhere(problemData(model, reading));
+}
+
 TEST(SameBits, OfLongAxes) {
   for (const bool spaced : {true, false})
     for (const int extra : {0, 1}) {
