@@ -38,6 +38,7 @@ AxisFrame frameOfListed(const AxisData& axis) {
   // A double, so that differences with doubles are exact. Of decimals the one next to theirs: most symmetric lists have
   // symmetric coordinates then.
   frame.middle = middleOf(valueRead(*least, axis.reading), valueRead(*most, axis.reading)).high;
+  frame.halfWidth = halfWidth;
   if (halfWidth == 0.0) return frame;
   frame.exponent = -exponentAbove(halfWidth);
   // A rounded middle may leave an end a little beyond 1.
@@ -75,6 +76,15 @@ AxisFrame axisFrame(const AxisData& axis) {
   AxisFrame frame = axis.equallySpaced() ? frameOfSpaced(axis) : frameOfListed(axis);
   frame.usable = std::abs(frame.exponent) <= kLargestExponent && isFinite(frame.scale) && isFinite(frame.middle);
   return frame;
+}
+
+AxisFrame stretchedFrame(const AxisFrame& frame) {
+  AxisFrame stretched = frame;
+  const double reach = std::ldexp(frame.halfWidth, frame.exponent);
+  stretched.scale = 0.5 / reach;
+  stretched.exponent = frame.exponent + 1;
+  stretched.coordinateError = frame.coordinateError / reach + kPairError;
+  return stretched;
 }
 
 bool coordinates(const AxisData& axis, const AxisFrame& frame, const PairSums& sums, std::size_t first,

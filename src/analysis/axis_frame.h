@@ -18,9 +18,13 @@ struct AxisFrame {
   bool usable = true;            // false where the scale is beyond the range of pairs
 
   double largestValue = 0.0;  // the magnitude of lower, upper and the values, at most
+  double halfWidth = 0.0;     // of the range of listed values
 };
 
 AxisFrame axisFrame(const AxisData& axis);
+
+/// The frame in which listed values, whose t reach somewhere between 1/2 and 1, reach 1.
+AxisFrame stretchedFrame(const AxisFrame& frame);
 
 /// The coordinates of `count` values from number `first` on; t has room for a multiple of kChains. True where the
 /// values are doubles exactly.

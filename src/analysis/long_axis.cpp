@@ -4,8 +4,8 @@
 #include <cmath>
 #include <new>
 
+#include "analysis/chebyshev_axis.h"
 #include "analysis/grid_axis.h"
-#include "analysis/neighbour_products.h"
 #include "runtime/run_time_error.h"
 
 namespace tavimor {
@@ -18,11 +18,6 @@ struct ListedSums : PartSums {
   ChainSums products;  // of the polynomials, lower triangle by row
 };
 
-bool sumsNeighboursOnly(std::size_t terms) { return terms <= kMostCompleted; }
-
-// The first of the polynomials up to number j whose products with that one are summed.
-std::size_t firstMultiplied(std::size_t j, std::size_t terms) { return sumsNeighboursOnly(terms) && j > 0 ? j - 1 : 0; }
-
 // The buffers of one thread and what it does with a block of values.
 class ListedBlocks {
  public:
@@ -34,11 +29,8 @@ class ListedBlocks {
     readFunctionBlock(function_, sums_, first, count, block_, part);
     const ConstPairs all = Pairs(polynomials_);
     sums_.dots(Pairs(block_), all, kMostDotted, axis_.terms, kMostDotted, part.y.from(0));
-    for (std::size_t j = 0; j < axis_.terms; ++j) {
-      const std::size_t i = firstMultiplied(j, axis_.terms);
-      sums_.dots(all + j * kMostDotted, all + i * kMostDotted, kMostDotted, j + 1 - i, kMostDotted,
-                 part.products.from(j * (j + 1) / 2 + i));
-    }
+    for (std::size_t j = 0; j < axis_.terms; ++j)
+      sums_.dots(all + j * kMostDotted, all, kMostDotted, j + 1, kMostDotted, part.products.from(j * (j + 1) / 2));
   }
 
  private:
@@ -61,25 +53,10 @@ PairMatrix productsOf(const std::vector<ListedSums>& parts, std::size_t terms) {
   for (std::size_t j = 0, n = 0; j < terms; ++j)
     for (std::size_t i = 0; i <= j; ++i, ++n) {
       Pair sum;
-      for (const ListedSums& part : parts) sum = sum + part.products.total(n);  // 0 where none was summed
+      for (const ListedSums& part : parts) sum = sum + part.products.total(n);
       products(i, j) = products(j, i) = sum;
     }
   return products;
-}
-
-// All products, and the error of each beside the product of its norms.
-double finishProducts(const LongAxisSums& sums, PairMatrix& products) {
-  const double ofSums = sumError(sums.basis.count);
-  if (!sumsNeighboursOnly(products.rows)) return ofSums;
-  double least = products(0, 0).high, most = least;
-  for (std::size_t j = 0; j < products.rows; ++j) {
-    least = std::min(least, products(j, j).high);
-    most = std::max(most, products(j, j).high);
-  }
-  const double ofPolynomials = 3 * normOfBasisErrors(sums.basis, sums.magnitudes) * std::sqrt(most);
-  completeProducts(sums.basis.recurrence, products);
-  const CompletionErrors errors = completionErrors(sums.basis.recurrence);
-  return (errors.growth * (ofSums * most + ofPolynomials) + errors.rounding * most) / least;
 }
 
 LongAxisSums listedAxisSums(const AxisData& axis, const FunctionValues& function, const AnalysisOptions& options) {
@@ -96,9 +73,7 @@ LongAxisSums listedAxisSums(const AxisData& axis, const FunctionValues& function
     result.add(part);
     for (std::size_t j = 0; j < axis.terms; ++j) result.y[j] = result.y[j] + part.y.total(j);
   }
-  PairMatrix products = productsOf(parts, axis.terms);
-  const double normError = finishProducts(result, products);
-  orthonormalise(result.basis, products, normError, result.magnitudes, options);
+  orthonormalise(result.basis, productsOf(parts, axis.terms), sumError(axis.count), result.magnitudes, options);
   return result;
 }
 
@@ -107,6 +82,7 @@ LongAxisSums listedAxisSums(const AxisData& axis, const FunctionValues& function
 LongAxisSums longAxisSums(const AxisData& axis, const FunctionValues& function, const AnalysisOptions& options) {
   try {
     if (auto onGrid = gridAxisSums(axis, function, options)) return std::move(*onGrid);
+    if (auto inChebyshevs = chebyshevAxisSums(axis, function, options)) return std::move(*inChebyshevs);
     return listedAxisSums(axis, function, options);
   } catch (const std::bad_alloc&) {
     throw RunTimeError(ErrorNumber::OutOfMemory);

@@ -4,8 +4,9 @@
 
 namespace tavimor {
 
-/// Values that lie on a grid but for their last digits have the discrete Chebyshev polynomials: see grid_axis.h. For
-/// other values the inner products of the polynomials are summed too.
+/// Values that lie on a grid but for their last digits have the discrete Chebyshev polynomials: see grid_axis.h. Most
+/// others have Chebyshev's own: see chebyshev_axis.h. What lies too unevenly for these has polynomials made of a sample
+/// of its values, and all their inner products are summed.
 /// Errors: OutOfMemory, AnalysisCancelled.
 LongAxisSums longAxisSums(const AxisData& axis, const FunctionValues& function, const AnalysisOptions& options);
 

@@ -97,7 +97,10 @@ struct PairSums {
   void (*dots)(ConstPairs a, ConstPairs columns, std::size_t stride, std::size_t columnCount, std::size_t count,
                Pairs sums);
 
-  /// The same in doubles for two weights: firstSums[c][chain] += sum of row.first[n] * row.values[n] *
+  /// The sums of some columns alone: sums[c][chain] += sum of columns[c * stride + n].
+  void (*columnSums)(ConstPairs columns, std::size_t stride, std::size_t columnCount, std::size_t count, Pairs sums);
+
+  /// Like `dots`, in doubles and for two weights: firstSums[c][chain] += sum of row.first[n] * row.values[n] *
   /// columns[c * stride + n], and secondSums with row.second.
   void (*weightedDots)(const WeightedRow& row, const double* columns, std::size_t stride, std::size_t columnCount,
                        std::size_t count, double* firstSums, double* secondSums);
@@ -125,6 +128,9 @@ struct PairSums {
   /// The same where the coordinates are doubles and the step has no shift.
   double (*advanceOnGrid)(const RecurrenceStep& step, const double* t, ConstPairs current, ConstPairs previous,
                           std::size_t count, Pairs next);
+
+  /// The step of Chebyshev's polynomials: next = 2 t current - previous, with the error of `advance` at most.
+  void (*advanceChebyshev)(ConstPairs t, ConstPairs current, ConstPairs previous, std::size_t count, Pairs next);
 
   /// sum = a + b and difference = a - b, number by number; they may take the place of a and b. The low parts are added
   /// as doubles and left as they are, at most 2 u (|a| + |b|): chains of products take such numbers. The error is at

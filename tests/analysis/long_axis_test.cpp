@@ -4,7 +4,9 @@
 
 #include <algorithm>
 #include <cmath>
+#include <random>
 
+#include "analysis/chebyshev_axis.h"
 #include "analysis/precise_fit.h"
 #include "support/exact_fit.h"
 #include "support/problem.h"
@@ -42,6 +44,19 @@ std::vector<double> dense(std::size_t count) {
   return values;
 }
 
+std::vector<double> oneFarAway(std::size_t count) {
+  std::vector<double> values = uneven(count);
+  for (double& value : values) value = std::round(value * 1e9) / 1e10;
+  values.back() = 2;
+  return values;
+}
+
+std::vector<double> inAnyOrder(std::size_t count) {
+  std::vector<double> values = uneven(count);
+  std::shuffle(values.begin(), values.end(), std::mt19937_64(6));
+  return values;
+}
+
 struct LongCase {
   const char* name;
   std::vector<double> (*values)(std::size_t count);
@@ -50,11 +65,19 @@ struct LongCase {
 };
 
 const LongCase kLongCases[] = {
-    {"EquallySpaced", nearlyEqual, true, 4},       {"EqualButForTheLastDigits", nearlyEqual, false, 4},
-    {"OfAHigherDegree", nearlyEqual, false, 9},    {"FromTheLargestDown", backwards, false, 4},
-    {"FarFromZero", farFromZero, false, 3},        {"Uneven", uneven, false, 4},
-    {"UnevenOfAHigherDegree", uneven, false, 9},   {"OneValueOffTheGrid", oneOffTheGrid, false, 4},
+    {"EquallySpaced", nearlyEqual, true, 4},
+    {"EqualButForTheLastDigits", nearlyEqual, false, 4},
+    {"OfAHigherDegree", nearlyEqual, false, 9},
+    {"FromTheLargestDown", backwards, false, 4},
+    {"FarFromZero", farFromZero, false, 3},
+    {"Uneven", uneven, false, 4},
+    {"UnevenOfAHigherDegree", uneven, false, 9},
+    {"OneValueOffTheGrid", oneOffTheGrid, false, 4},
     {"CloseTogetherInTheMiddle", dense, false, 5},
+    {"InAnyOrder", inAnyOrder, false, 4},
+    {"OneValueFarFromTheOthers", oneFarAway, false, 6},
+    {"UnevenOfDegree1", uneven, false, 1},
+    {"UnevenOfDegree0", uneven, false, 0},
 };
 
 class LongAxis : public testing::TestWithParam<LongCase> {};
@@ -83,7 +106,19 @@ TEST_P(LongAxis, GivesWhatExactArithmeticGives) {
 INSTANTIATE_TEST_SUITE_P(Cases, LongAxis, testing::ValuesIn(kLongCases),
                          [](const auto& one) { return std::string(one.param.name); });
 
-// So many terms that all products of the polynomials are summed, and those of neighbours alone.
+bool isInChebyshevs(std::vector<double> (*values)(std::size_t count)) {
+  const Dimension model = test::problem({{"x", values(kLongAxis), 6, 0}});
+  const ProblemData data = problemData(model);
+  const FunctionValues function = functionValues(*data.function, data.reading, pairSums(InstructionSet::Plain));
+  return chebyshevAxisSums(data.axis[0], function, {}).has_value();
+}
+
+TEST(ChebyshevAxis, IsLeftToOtherPolynomialsWhereValuesLieTooUnevenly) {
+  EXPECT_TRUE(isInChebyshevs(uneven));
+  EXPECT_TRUE(isInChebyshevs(dense));
+  EXPECT_FALSE(isInChebyshevs(oneFarAway));
+}
+
 TEST(LongAxisOfManyTerms, IsTheSameFitAsThatOfFewerOnItsPart) {
   Dimension model = test::problem({{"x", uneven(kLongAxis), 14, 0}});
   test::tabulate(model, [](double x, double, double, double) { return std::cos(x); });

@@ -105,6 +105,48 @@ TEST(PairSums, RecurrencesAndFoldsAreTheSameEverywhere) {
   }
 }
 
+TEST(PairSums, ChebyshevsPolynomialsAreTheSameEverywhereAndRight) {
+  constexpr std::size_t count = 5 * kChains;
+  PairList t = randomPairs(count, 9), current = randomPairs(count, 10), previous = randomPairs(count, 11);
+  PairList wanted(count);
+  pairSums(InstructionSet::Plain).advanceChebyshev(Pairs(t), Pairs(current), Pairs(previous), count, wanted);
+  for (const PairSums* sums : availableSets()) {
+    PairList got(count);
+    sums->advanceChebyshev(Pairs(t), Pairs(current), Pairs(previous), count, got);
+    expectSameBits(got, wanted);
+  }
+  for (std::size_t n = 0; n < count; ++n) {
+    const mpq_class product =
+        2 * test::exactly({t.high[n], t.low[n]}) * test::exactly({current.high[n], current.low[n]});
+    const mpq_class before = test::exactly({previous.high[n], previous.low[n]});
+    const mpq_class size = abs(product) + abs(before);
+    EXPECT_LE(test::distance({wanted.high[n], wanted.low[n]}, product - before), 5 * kPairError * size.get_d());
+  }
+}
+
+TEST(PairSums, SumsOfColumnsAreTheSameEverywhereAndRight) {
+  for (const std::size_t columnCount : {1, 4, 6}) {
+    PairList columns = randomPairs(columnCount * kMostDotted, 12);
+    ChainSums wanted(columnCount);
+    pairSums(InstructionSet::Plain).columnSums(Pairs(columns), kMostDotted, columnCount, kMostDotted, wanted.from(0));
+    for (std::size_t c = 0; c < columnCount; ++c) {
+      for (const PairSums* sums : availableSets()) {
+        ChainSums got(columnCount);
+        sums->columnSums(Pairs(columns), kMostDotted, columnCount, kMostDotted, got.from(0));
+        EXPECT_EQ(got.total(c).high, wanted.total(c).high);
+        EXPECT_EQ(got.total(c).low, wanted.total(c).low);
+      }
+      mpq_class exact, size;
+      for (std::size_t n = c * kMostDotted; n < (c + 1) * kMostDotted; ++n) {
+        const mpq_class value = test::exactly({columns.high[n], columns.low[n]});
+        exact += value;
+        size += abs(value);
+      }
+      EXPECT_LE(test::distance(wanted.total(c), exact), 4096 * kUnitRoundoff * kUnitRoundoff * size.get_d());
+    }
+  }
+}
+
 std::vector<double> numbersOfAllKinds() {
   std::vector<double> values = {0.0, -0.0, 0.1, 1e14, 1e15, 123456789012345.0, 1e-8, 9.99999999999999e-9, 1e22, 5e-324};
   std::mt19937_64 random(8);

@@ -1,0 +1,133 @@
+#include "analysis/chebyshev_axis.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace tavimor {
+
+namespace {
+
+constexpr double kMostError = 1e-20;  // of a basis, before other polynomials are tried
+
+struct ChebyshevSums : PartSums {
+  explicit ChebyshevSums(std::size_t terms) : PartSums(terms), single(terms), products(terms) {}
+
+  ChainSums single, products;  // of each polynomial, and of each with the last one; the first of both is left out
+};
+
+// The buffers of one thread and what it does with a block of values.
+class ChebyshevBlocks {
+ public:
+  ChebyshevBlocks(const AxisData& axis, const AxisBasis& basis, const FunctionValues& function, const PairSums& sums)
+      : axis_(axis), basis_(basis), function_(function), sums_(sums), polynomials_(kMostDotted * axis.terms) {}
+
+  void operator()(std::size_t first, std::size_t count, ChebyshevSums& part) {
+    fillBasis(first, count, part);
+    readFunctionBlock(function_, sums_, first, count, block_, part);
+    const std::size_t last = axis_.terms - 1;
+    const ConstPairs all = Pairs(polynomials_), fromFirst = all + kMostDotted, ofLast = all + last * kMostDotted;
+    sums_.columnSums(Pairs(block_), kMostDotted, 1, kMostDotted, part.y.from(0));
+    sums_.dots(Pairs(block_), fromFirst, kMostDotted, last, kMostDotted, part.y.from(1));
+    sums_.columnSums(fromFirst, kMostDotted, last, kMostDotted, part.single.from(1));
+    sums_.dots(ofLast, fromFirst, kMostDotted, last, kMostDotted, part.products.from(1));
+  }
+
+ private:
+  // Behind the end of the values all are 0.
+  void fillBasis(std::size_t first, std::size_t count, PartSums& part) {
+    beginPolynomials(count, polynomials_);
+    const Pairs all = polynomials_, t = all + kMostDotted;
+    part.exactValues = coordinates(axis_, basis_.frame, sums_, first, count, t) && part.exactValues;
+    std::fill(t.high + count, t.high + kMostDotted, 0.0);
+    std::fill(t.low + count, t.low + kMostDotted, 0.0);
+    part.largestCoordinate = std::max(part.largestCoordinate, sums_.magnitudes(t.high, count).largest);
+    for (std::size_t j = 1; j + 1 < axis_.terms; ++j)
+      sums_.advanceChebyshev(t, all + j * kMostDotted, all + (j - 1) * kMostDotted, kMostDotted,
+                             all + (j + 1) * kMostDotted);
+  }
+
+  const AxisData& axis_;
+  const AxisBasis& basis_;
+  const FunctionValues& function_;
+  const PairSums& sums_;
+  PairList polynomials_, block_{kMostDotted};
+};
+
+Recurrence chebyshevRecurrence(std::size_t terms) {
+  Recurrence recurrence(terms - 1, RecurrenceStep{0.0, 2.0, 1.0});
+  recurrence.front() = {0.0, 1.0, 0.0};
+  return recurrence;
+}
+
+// The largest magnitude of each polynomial is that at 1 or at a coordinate a little beyond it.
+BasisMagnitudes chebyshevMagnitudes(double largestCoordinate, std::size_t terms) {
+  BasisMagnitudes magnitudes(terms);
+  magnitudes.largestCoordinate = std::max(1.0, largestCoordinate);
+  std::vector<double>& largest = magnitudes.largest;
+  largest[1] = magnitudes.largestCoordinate;
+  for (std::size_t j = 1; j + 1 < terms; ++j) largest[j + 1] = 2 * largest[1] * largest[j] - largest[j - 1];
+  return magnitudes;
+}
+
+// The error of the polynomials alone, at most, as it will be found.
+double expectedError(const AxisBasis& basis) {
+  return normOfBasisErrors(basis, chebyshevMagnitudes(1.0, basis.terms)) / std::sqrt(static_cast<double>(basis.count));
+}
+
+// The sums of T_0 .. T_{2q}.
+std::vector<Pair> sumsOfPolynomials(const std::vector<ChebyshevSums>& parts, const AxisBasis& basis) {
+  const std::size_t last = basis.terms - 1;
+  std::vector<Pair> sums(2 * last + 1);
+  sums[0] = static_cast<double>(basis.count);
+  for (std::size_t j = 1; j <= last; ++j) {
+    Pair product;
+    for (const ChebyshevSums& part : parts) {
+      sums[j] = sums[j] + part.single.total(j);
+      product = product + part.products.total(j);
+    }
+    sums[last + j] = product;
+  }
+  for (std::size_t j = 1; j <= last; ++j) sums[last + j] = scaled(sums[last + j], 1) - sums[last - j];
+  return sums;
+}
+
+// With e the largest error of a sum that was formed, one that follows is off by 3 e at most, and so is the mean of two.
+void finish(const std::vector<ChebyshevSums>& parts, LongAxisSums& result, const AnalysisOptions& options) {
+  AxisBasis& basis = result.basis;
+  const std::vector<Pair> sums = sumsOfPolynomials(parts, basis);
+  PairMatrix products(basis.terms, basis.terms);
+  for (std::size_t j = 0; j < basis.terms; ++j)
+    for (std::size_t k = 0; k < basis.terms; ++k)
+      products(j, k) = scaled(sums[j + k] + sums[j < k ? k - j : j - k], -1);
+  result.magnitudes = chebyshevMagnitudes(result.magnitudes.largestCoordinate, basis.terms);
+  const double count = static_cast<double>(basis.count), largest = result.magnitudes.largest.back();
+  double least = count;
+  for (std::size_t j = 0; j < basis.terms; ++j) least = std::min(least, products(j, j).high);
+  const double ofSums = (sumError(basis.count) + 4 * kPairError) * count * largest * largest;
+  const double ofPolynomials = 3 * normOfBasisErrors(basis, result.magnitudes) * std::sqrt(count) * largest;
+  orthonormalise(basis, products, 3 * (ofSums + ofPolynomials) / least, result.magnitudes, options);
+}
+
+}  // namespace
+
+std::optional<LongAxisSums> chebyshevAxisSums(const AxisData& axis, const FunctionValues& function,
+                                              const AnalysisOptions& options) {
+  LongAxisSums result(framedBasis(axis));
+  if (!result.basis.frame.usable || axis.terms < 2) return std::nullopt;
+  result.basis.frame = stretchedFrame(result.basis.frame);
+  result.basis.recurrence = chebyshevRecurrence(axis.terms);
+  if (!(expectedError(result.basis) < kMostError)) return std::nullopt;
+  const AxisParts cut(axis.count);
+  std::vector<ChebyshevSums> parts(cut.count(), ChebyshevSums(axis.terms));
+  sumParts(cut, 45 * static_cast<double>(axis.terms), options, parts,
+           [&] { return ChebyshevBlocks(axis, result.basis, function, pairSums(options.instructionSet)); });
+  for (const ChebyshevSums& part : parts) {
+    result.add(part);
+    for (std::size_t j = 0; j < axis.terms; ++j) result.y[j] = result.y[j] + part.y.total(j);
+  }
+  finish(parts, result, options);
+  if (!(result.basis.error < kMostError)) return std::nullopt;
+  return result;
+}
+
+}  // namespace tavimor
