@@ -115,9 +115,8 @@ qt() {
     androiddeployqt macdeployqt windeployqt pkg_config system_zlib system_png system_freetype system_harfbuzz \
     system_pcre2 system_doubleconversion)
   # shellcheck disable=SC2086
-  install_with_cmake "$folder/sources/qt6-base" qt -DQT_HOST_PATH=/usr \
-    -DQT_HOST_PATH_CMAKE_DIR="/usr/lib/$(dpkg-architecture -qDEB_HOST_MULTIARCH)/cmake" \
-    -DQT_QMAKE_TARGET_MKSPEC=win32-g++ -DINPUT_opengl=no -DQT_BUILD_EXAMPLES=OFF -DQT_BUILD_TESTS=OFF $off
+  install_with_cmake "$folder/sources/qt6-base" qt -DQT_QMAKE_TARGET_MKSPEC=win32-g++ -DINPUT_opengl=no \
+    -DQT_BUILD_EXAMPLES=OFF -DQT_BUILD_TESTS=OFF $off
 }
 
 qcustomplot() { install_with_cmake "$folder/sources/qcustomplot" qcustomplot -DUSE_QT_VERSION=6; }
