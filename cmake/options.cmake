@@ -39,6 +39,7 @@ endif()
 
 # With the sanitizers' checks in it GCC takes variables of its own library (std::regex) for uninitialised.
 if(TAVIMOR_SANITIZE)
+  target_compile_definitions(tavimor_options INTERFACE TAVIMOR_SANITIZED)
   target_compile_options(tavimor_options INTERFACE
     -fsanitize=${TAVIMOR_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer
     $<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>)

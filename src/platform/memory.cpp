@@ -3,13 +3,15 @@
 #include <cstdint>
 #include <cstdlib>
 
-#ifdef __linux__
+// The sanitizers watch over the memory of the library alone.
+#if defined(__linux__) && !defined(TAVIMOR_SANITIZED)
+#define TAVIMOR_MAPS_MEMORY
 #include <sys/mman.h>
 #endif
 
 namespace tavimor {
 
-#ifdef __linux__
+#ifdef TAVIMOR_MAPS_MEMORY
 
 namespace {
 
