@@ -16,10 +16,10 @@ void LongAxisSums::add(const PartSums& part) {
   basis.exactValues = basis.exactValues && part.exactValues;
 }
 
-void readFunctionBlock(const FunctionValues& function, const PairSums& sums, std::size_t first, std::size_t count,
-                       PairList& block, PartSums& part) {
-  std::copy_n(function.values + first, count, block.high.begin());
-  std::fill(block.high.begin() + static_cast<std::ptrdiff_t>(count), block.high.end(), 0.0);
+void readFunctionBlock(const FunctionValues& function, const PairSums& sums, const Stretch& stretch, PairList& block,
+                       PartSums& part) {
+  stretch.copy(function.values, block.high.data());
+  std::fill(block.high.begin() + static_cast<std::ptrdiff_t>(stretch.count), block.high.end(), 0.0);
   part.exactFunction = finishBlock(function, sums, block, kMostDotted) && part.exactFunction;
   sums.dots(Pairs(block), Pairs(block), 0, 1, kMostDotted, part.squares.from(0));
 }

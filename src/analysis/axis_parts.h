@@ -37,9 +37,22 @@ struct LongAxisSums {
   void add(const PartSums& part);
 };
 
+/// Some consecutive values, in their order or from the last one to the first.
+struct Stretch {
+  enum Direction { Forth, Back };
+
+  std::size_t first, count;
+  Direction direction = Forth;
+
+  void copy(const double* values, double* to) const {
+    const double* from = values + first;
+    direction == Forth ? std::copy_n(from, count, to) : std::reverse_copy(from, from + count, to);
+  }
+};
+
 /// A block of the function, with 0 behind its end; its squares are added to those of the part.
-void readFunctionBlock(const FunctionValues& function, const PairSums& sums, std::size_t first, std::size_t count,
-                       PairList& block, PartSums& part);
+void readFunctionBlock(const FunctionValues& function, const PairSums& sums, const Stretch& stretch, PairList& block,
+                       PartSums& part);
 
 /// The first polynomial at a block of kMostDotted places: 1, and 0 behind the first `count`, where so are all others.
 inline void beginPolynomials(std::size_t count, PairList& polynomials) {

@@ -23,7 +23,7 @@ class ChebyshevBlocks {
 
   void operator()(std::size_t first, std::size_t count, ChebyshevSums& part) {
     fillBasis(first, count, part);
-    readFunctionBlock(function_, sums_, first, count, block_, part);
+    readFunctionBlock(function_, sums_, {first, count}, block_, part);
     const std::size_t last = axis_.terms - 1;
     const ConstPairs all = Pairs(polynomials_), fromFirst = all + kMostDotted, ofLast = all + last * kMostDotted;
     sums_.columnSums(Pairs(block_), kMostDotted, 1, kMostDotted, part.y.from(0));

@@ -33,16 +33,14 @@ class GridBlocks {
   }
 
   void operator()(std::size_t first, std::size_t count, GridSums& part) {
-    const std::size_t opposite = axis_.count - first - count;
     // The value in the middle is not opposite to another one.
-    const std::size_t shared = opposite < first + count ? count - 1 : count;
+    const std::size_t shared = axis_.count - first - count < first + count ? count - 1 : count;
+    const Stretch front{first, count}, back{axis_.count - first - shared, shared, Stretch::Back};
     fillBasis(first, count, part);
-    readFunctionBlock(function_, sums_, first, count, front_, part);
-    readFunctionBlock(function_, sums_, axis_.count - first - shared, shared, back_, part);
-    std::reverse(back_.high.begin(), back_.high.begin() + static_cast<std::ptrdiff_t>(shared));
-    std::reverse(back_.low.begin(), back_.low.begin() + static_cast<std::ptrdiff_t>(shared));
+    readFunctionBlock(function_, sums_, front, front_, part);
+    readFunctionBlock(function_, sums_, back, back_, part);
     addFunction(part);
-    if (!axis_.equallySpaced()) addDeviations(first, count, shared, part);
+    if (!axis_.equallySpaced()) addDeviations(front, back, part);
   }
 
  private:
@@ -71,21 +69,19 @@ class GridBlocks {
     sums_.dots(Pairs(odd_), all + kMostDotted, 2 * kMostDotted, axis_.terms / 2, kMostDotted, part.y.from(evenCount));
   }
 
-  void addDeviations(std::size_t first, std::size_t count, std::size_t shared, GridSums& part) {
-    const double* values = axis_.values.data();
-    std::copy_n(values + first, count, x_.high.begin());
-    const double inFront = deviationsOf(count, width_, frontDeviation_, part);
-    const double* behind = values + (axis_.count - first - shared);
-    std::reverse_copy(behind, behind + shared, x_.high.begin());
-    const double inBack = deviationsOf(shared, -width_, backDeviation_, part);
+  void addDeviations(const Stretch& front, const Stretch& back, GridSums& part) {
+    const double inFront = deviationsOf(front, width_, frontDeviation_, part);
+    const double inBack = deviationsOf(back, -width_, backDeviation_, part);
     part.deviations.largest = std::max({part.deviations.largest, inFront, inBack});
     part.deviations.add(sums_, {frontDeviation_.data(), backDeviation_.data(), front_.high.data(), back_.high.data()},
                         polynomials_.high.data());
   }
 
   // Behind the end, as at the middle place, a value in the middle has no deviation.
-  double deviationsOf(std::size_t count, const Pair& width, std::vector<double>& deviation, PartSums& part) {
+  double deviationsOf(const Stretch& stretch, const Pair& width, std::vector<double>& deviation, PartSums& part) {
     const AxisFrame& frame = basis_.frame;
+    const std::size_t count = stretch.count;
+    stretch.copy(axis_.values.data(), x_.high.data());
     if (axis_.reading == Reading::AsTyped)
       part.exactValues = sums_.typedLows(x_.high.data(), count, x_.low.data()) && part.exactValues;
     else

@@ -26,7 +26,7 @@ class ListedBlocks {
 
   void operator()(std::size_t first, std::size_t count, ListedSums& part) {
     fillBasis(first, count, part);
-    readFunctionBlock(function_, sums_, first, count, block_, part);
+    readFunctionBlock(function_, sums_, {first, count}, block_, part);
     const ConstPairs all = Pairs(polynomials_);
     sums_.dots(Pairs(block_), all, kMostDotted, axis_.terms, kMostDotted, part.y.from(0));
     for (std::size_t j = 0; j < axis_.terms; ++j)
