@@ -36,8 +36,10 @@ QIcon programIcon() {
 #ifdef Q_OS_WIN
 // Wine has none of the fonts that it names for windows, menus and messages.
 void replaceMissingFonts() {
-  for (const char* where : {"QWidget", "QMenu", "QMenuBar", "QMessageBox", "QTipLabel"})
-    if (!QFontInfo(QApplication::font(where)).exactMatch()) QApplication::setFont(sansSerifFont(), where);
+  const auto isMissing = [](const QFont& font) { return !QFontInfo(font).exactMatch(); };
+  if (isMissing(QApplication::font())) QApplication::setFont(sansSerifFont());
+  for (const char* widget : {"QMenu", "QMenuBar", "QMessageBox", "QTipLabel"})
+    if (isMissing(QApplication::font(widget))) QApplication::setFont(sansSerifFont(), widget);
 }
 #endif
 
