@@ -4,16 +4,12 @@
 #include <bit>
 #include <cstdint>
 
+#include "platform/sse2.h"
 #include "runtime/eight_digits.h"
-
-#if defined(__SSE2__) || defined(_M_X64)
-#include <emmintrin.h>
-#define TAVIMOR_HAS_REGISTERS_OF_16_BYTES
-#endif
 
 namespace tavimor {
 
-#ifdef TAVIMOR_HAS_REGISTERS_OF_16_BYTES
+#ifdef TAVIMOR_HAS_SSE2
 
 namespace {
 

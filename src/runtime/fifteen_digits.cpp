@@ -7,6 +7,7 @@
 #include <cstring>
 
 #include "runtime/eight_digits.h"
+#include "runtime/sixteen_digits.h"
 
 namespace tavimor {
 
@@ -63,23 +64,17 @@ int decimalExponent(double magnitude) {
   return magnitude >= kPowersFromTenThousandth[static_cast<std::size_t>(place)] ? next : least;
 }
 
-constexpr auto kPairsOfDigits = [] {
-  std::array<char, 200> pairs{};
-  for (std::size_t n = 0; n < 100; ++n) {
-    pairs[2 * n] = static_cast<char>('0' + n / 10);
-    pairs[2 * n + 1] = static_cast<char>('0' + n % 10);
-  }
-  return pairs;
-}();
+void putEight(std::uint64_t digits, char* to) {
+  const std::uint64_t characters = digits + 0x3030303030303030;
+  if constexpr (std::endian::native == std::endian::little)
+    std::memcpy(to, &characters, sizeof characters);
+  else
+    for (int n = 0; n < 8; ++n) to[n] = static_cast<char>(characters >> 8 * n);
+}
 
-void putPair(std::uint32_t number, char* to) { std::memcpy(to, &kPairsOfDigits[2 * std::size_t{number}], 2); }
-
-void putEight(std::uint32_t number, char* to) {
-  const std::uint32_t first = number / 10000, second = number % 10000;
-  putPair(first / 100, to);
-  putPair(first % 100, to + 2);
-  putPair(second / 100, to + 4);
-  putPair(second % 100, to + 6);
+void putSixteen(const SixteenDigits& digits, char* to) {
+  putEight(digits.first, to);
+  putEight(digits.second, to + 8);
 }
 
 }  // namespace
@@ -91,24 +86,19 @@ FifteenDigits fifteenDigits(double magnitude) {
   return {kTooMany / 10, exponent + 1};  // nines that were rounded up
 }
 
-char* putDecimal(const FifteenDigits& number, char* to) {
-  constexpr std::size_t chunk = 16;      // as many as are copied at once, needed or not
-  std::array<char, 2 * chunk> digits{};  // one zero in front
-  putEight(static_cast<std::uint32_t>(number.digits / kPowersOfTen[8]), digits.data());
-  putEight(static_cast<std::uint32_t>(number.digits % kPowersOfTen[8]), digits.data() + 8);
-  const char* first = digits.data() + 1;
-  const char* end = digits.data() + chunk;
-  while (end[-1] == '0') --end;
-
-  const std::ptrdiff_t whole = std::max(number.exponent + 1, 0);  // digits before the point
-  std::memcpy(to, first, chunk);
+// Sixteen digits are written wherever some are needed: what follows is written over the others.
+char* putDecimal(FifteenDigits number, char* to) {
+  const SixteenDigits digits = sixteenDigits(static_cast<std::uint32_t>(number.digits / kPowersOfTen[7]),
+                                             static_cast<std::uint32_t>(number.digits % kPowersOfTen[7] * 10));
+  const int significant = digits.significant(), whole = std::max(number.exponent + 1, 0);  // digits before the point
+  if (whole > 0) putSixteen(digits, to);
   to += whole;
-  if (first + whole >= end) return to;
+  if (whole >= significant) return to;
   *to++ = '.';
   std::fill_n(to, 3, '0');  // as many as can follow the point
   to += std::max(-number.exponent - 1, 0);
-  std::memcpy(to, first + whole, chunk);
-  return to + (end - first - whole);
+  putSixteen(digits.from(whole), to);
+  return to + (significant - whole);
 }
 
 }  // namespace tavimor

@@ -22,6 +22,6 @@ FifteenDigits fifteenDigits(double magnitude);
 /// Writes them with a point where one is needed, and without zeros at either end: "12.5", ".00025", "300". Returns the
 /// end. There must be room for kRoomForDecimal characters, which may be written over.
 inline constexpr std::size_t kRoomForDecimal = 32;
-char* putDecimal(const FifteenDigits& number, char* to);
+char* putDecimal(FifteenDigits number, char* to);
 
 }  // namespace tavimor

@@ -17,11 +17,6 @@ static_assert(std::numeric_limits<double>::digits10 == kSignificantDigits);
 
 constexpr std::size_t kMostCharacters = kRoomForDecimal + 2;  // a sign, a blank
 
-std::string_view wordFor(double value) {
-  if (std::isnan(value)) return "NAN";
-  return value < 0 ? "-INF" : "INF";
-}
-
 // In the form of writtenNumber, by the library, for any finite magnitude but 0.
 char* putByLibrary(double magnitude, char* to) {
   char* const end =
@@ -30,28 +25,27 @@ char* putByLibrary(double magnitude, char* to) {
   return to[0] == '0' ? std::copy(to + 1, end, to) : end;
 }
 
-// In the form of writtenNumber, at most kMostCharacters. Returns the end.
-char* putWritten(double value, char* to) {
-  if (!std::isfinite(value)) return to + wordFor(value).copy(to, kMostCharacters);
-  if (value == 0.0) {
-    *to = '0';
-    return to + 1;
-  }
-  if (value < 0) *to++ = '-';
-  const double magnitude = std::fabs(value);
+char* putWord(std::string_view word, char* to) { return to + word.copy(to, kMostCharacters); }
+
+// A number without its sign, in the form of writtenNumber. Returns the end.
+char* putMagnitude(double magnitude, char* to) {
   const bool isUsual = magnitude >= kLeastMagnitude && magnitude < kMostMagnitude;
-  return isUsual ? putDecimal(fifteenDigits(magnitude), to) : putByLibrary(magnitude, to);
+  if (isUsual) return putDecimal(fifteenDigits(magnitude), to);
+  if (std::isnan(magnitude)) return putWord("NAN", to);
+  if (std::isinf(magnitude)) return putWord("INF", to);
+  return magnitude == 0.0 ? putWord("0", to) : putByLibrary(magnitude, to);
+}
+
+// In the form of writtenNumber, at most kMostCharacters.
+char* putWritten(double value, char* to) {
+  if (value < 0) *to++ = '-';
+  return putMagnitude(std::fabs(value), to);
 }
 
 // In the form of printedNumber.
 char* putPrinted(double value, char* to) {
-  char* const end = putWritten(value, to + 1);
-  if (to[1] == '-') {
-    std::copy(to + 1, end, to);
-    end[-1] = ' ';
-    return end;
-  }
-  *to = ' ';
+  *to = value < 0 ? '-' : ' ';
+  char* const end = putMagnitude(std::fabs(value), to + 1);
   *end = ' ';
   return end + 1;
 }
