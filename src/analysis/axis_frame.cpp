@@ -26,6 +26,7 @@ AxisFrame frameOfSpaced(const AxisData& axis) {
   std::frexp(width.high, &widthExponent);
   frame.scale = Pair(std::ldexp(steps, -bits)) / scaled(width, -widthExponent);
   frame.exponent = 1 - widthExponent;
+  frame.unit = std::ldexp(1.0, -bits);
   frame.scaleError = 2 * (kTypedError + kPairError) * frame.largestValue / std::fabs(width.high) + 2 * kPairError;
   return frame;
 }
@@ -45,6 +46,26 @@ AxisFrame frameOfListed(const AxisData& axis) {
   if (axis.reading == Reading::AsTyped)
     frame.coordinateError = (kTypedError + kPairError) * std::ldexp(frame.largestValue, frame.exponent);
   return frame;
+}
+
+// The factor has so many digits that its products with whole numbers up to `steps` are doubles.
+AxisFrame stretchedGrid(const AxisFrame& frame, double steps) {
+  AxisFrame stretched = frame;
+  const int digits = 52 - exponentAbove(steps);
+  const double factor = std::ldexp(std::floor(std::ldexp(1.0 / (steps * frame.unit), digits)), -digits);
+  stretched.unit = frame.unit * factor;
+  stretched.scale = frame.scale * Pair(factor);
+  stretched.scaleError = frame.scaleError + kPairError;
+  return stretched;
+}
+
+AxisFrame stretchedList(const AxisFrame& frame) {
+  AxisFrame stretched = frame;
+  const double reach = std::ldexp(frame.halfWidth, frame.exponent);
+  stretched.scale = 0.5 / reach;
+  stretched.exponent = frame.exponent + 1;
+  stretched.coordinateError = frame.coordinateError / reach + kPairError;
+  return stretched;
 }
 
 // The exponent of the last digit of a double that is not 0.
@@ -70,30 +91,22 @@ bool isExactlySpaced(const AxisData& axis) {
   return std::ldexp(largest, -digit) <= 0x1p53;
 }
 
-double unitOfGrid(std::size_t count) { return std::ldexp(1.0, -exponentAbove(static_cast<double>(count - 1))); }
-
 AxisFrame axisFrame(const AxisData& axis) {
   AxisFrame frame = axis.equallySpaced() ? frameOfSpaced(axis) : frameOfListed(axis);
   frame.usable = std::abs(frame.exponent) <= kLargestExponent && isFinite(frame.scale) && isFinite(frame.middle);
   return frame;
 }
 
-AxisFrame stretchedFrame(const AxisFrame& frame) {
-  AxisFrame stretched = frame;
-  const double reach = std::ldexp(frame.halfWidth, frame.exponent);
-  stretched.scale = 0.5 / reach;
-  stretched.exponent = frame.exponent + 1;
-  stretched.coordinateError = frame.coordinateError / reach + kPairError;
-  return stretched;
+AxisFrame stretchedFrame(const AxisData& axis, const AxisFrame& frame) {
+  return axis.equallySpaced() ? stretchedGrid(frame, static_cast<double>(axis.count - 1)) : stretchedList(frame);
 }
 
 bool coordinates(const AxisData& axis, const AxisFrame& frame, const PairSums& sums, std::size_t first,
                  std::size_t count, Pairs t) {
   if (axis.equallySpaced()) {
     const double last = static_cast<double>(axis.count - 1);
-    const double unit = unitOfGrid(axis.count);
     for (std::size_t n = 0; n < count; ++n) {
-      t.high[n] = (2.0 * static_cast<double>(first + n) - last) * unit;
+      t.high[n] = (2.0 * static_cast<double>(first + n) - last) * frame.unit;
       t.low[n] = 0.0;
     }
     return isExactlySpaced(axis);

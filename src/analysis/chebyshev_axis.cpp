@@ -3,11 +3,11 @@
 #include <algorithm>
 #include <cmath>
 
+#include "analysis/chebyshev_basis.h"
+
 namespace tavimor {
 
 namespace {
-
-constexpr double kMostError = 1e-20;  // of a basis, before other polynomials are tried
 
 struct ChebyshevSums : PartSums {
   explicit ChebyshevSums(std::size_t terms) : PartSums(terms), single(terms), products(terms) {}
@@ -41,9 +41,7 @@ class ChebyshevBlocks {
     std::fill(t.high + count, t.high + kMostDotted, 0.0);
     std::fill(t.low + count, t.low + kMostDotted, 0.0);
     part.largestCoordinate = std::max(part.largestCoordinate, sums_.magnitudes(t.high, count).largest);
-    for (std::size_t j = 1; j + 1 < axis_.terms; ++j)
-      sums_.advanceChebyshev(t, all + j * kMostDotted, all + (j - 1) * kMostDotted, kMostDotted,
-                             all + (j + 1) * kMostDotted);
+    fillChebyshevs(sums_, axis_.terms, all);
   }
 
   const AxisData& axis_;
@@ -52,27 +50,6 @@ class ChebyshevBlocks {
   const PairSums& sums_;
   PairList polynomials_, block_{kMostDotted};
 };
-
-Recurrence chebyshevRecurrence(std::size_t terms) {
-  Recurrence recurrence(terms - 1, RecurrenceStep{0.0, 2.0, 1.0});
-  recurrence.front() = {0.0, 1.0, 0.0};
-  return recurrence;
-}
-
-// The largest magnitude of each polynomial is that at 1 or at a coordinate a little beyond it.
-BasisMagnitudes chebyshevMagnitudes(double largestCoordinate, std::size_t terms) {
-  BasisMagnitudes magnitudes(terms);
-  magnitudes.largestCoordinate = std::max(1.0, largestCoordinate);
-  std::vector<double>& largest = magnitudes.largest;
-  largest[1] = magnitudes.largestCoordinate;
-  for (std::size_t j = 1; j + 1 < terms; ++j) largest[j + 1] = 2 * largest[1] * largest[j] - largest[j - 1];
-  return magnitudes;
-}
-
-// The error of the polynomials alone, at most, as it will be found.
-double expectedError(const AxisBasis& basis) {
-  return normOfBasisErrors(basis, chebyshevMagnitudes(1.0, basis.terms)) / std::sqrt(static_cast<double>(basis.count));
-}
 
 // The sums of T_0 .. T_{2q}.
 std::vector<Pair> sumsOfPolynomials(const std::vector<ChebyshevSums>& parts, const AxisBasis& basis) {
@@ -114,9 +91,9 @@ std::optional<LongAxisSums> chebyshevAxisSums(const AxisData& axis, const Functi
                                               const AnalysisOptions& options) {
   LongAxisSums result(framedBasis(axis));
   if (!result.basis.frame.usable || axis.terms < 2) return std::nullopt;
-  result.basis.frame = stretchedFrame(result.basis.frame);
+  result.basis.frame = stretchedFrame(axis, result.basis.frame);
   result.basis.recurrence = chebyshevRecurrence(axis.terms);
-  if (!(expectedError(result.basis) < kMostError)) return std::nullopt;
+  if (!isPreciseInChebyshevs(result.basis)) return std::nullopt;
   const AxisParts cut(axis.count);
   std::vector<ChebyshevSums> parts(cut.count(), ChebyshevSums(axis.terms));
   sumParts(cut, 45 * static_cast<double>(axis.terms), options, parts,
@@ -126,7 +103,7 @@ std::optional<LongAxisSums> chebyshevAxisSums(const AxisData& axis, const Functi
     for (std::size_t j = 0; j < axis.terms; ++j) result.y[j] = result.y[j] + part.y.total(j);
   }
   finish(parts, result, options);
-  if (!(result.basis.error < kMostError)) return std::nullopt;
+  if (!(result.basis.error < kMostChebyshevError)) return std::nullopt;
   return result;
 }
 

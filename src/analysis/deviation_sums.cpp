@@ -4,6 +4,8 @@
 #include <cmath>
 #include <numeric>
 
+#include "analysis/chebyshev_basis.h"
+
 namespace tavimor {
 
 namespace {
@@ -84,18 +86,20 @@ void DeviationSums::add(const DeviationSums& part) {
   largest = part.largest <= largest ? largest : part.largest;
 }
 
-DeviationGains::DeviationGains(const DeviationSums& sums, const Recurrence& recurrence)
-    : terms_(sums.terms_), largestDeviation_(sums.largest), completion_(completionErrors(recurrence)) {
+DeviationGains::DeviationGains(const DeviationSums& sums) : terms_(sums.terms_), largestDeviation_(sums.largest) {
   const std::size_t m = terms_;
   const auto productsOf = [&](std::size_t order) {
-    PairMatrix products(m, m);
+    std::vector<double> single(2 * m);  // the sums of T_0 .. T_{2m-2}
     for (std::size_t j = 0; j < m; ++j) {
-      products(j, j) = sumOfChains(sums.products_, 2 * kOrders * j + order);
-      if (j > 0)
-        products(j - 1, j) = products(j, j - 1) = sumOfChains(sums.products_, 2 * kOrders * j + kOrders + order);
+      const double withItself = sumOfChains(sums.products_, 2 * kOrders * j + order);
+      const double withOneBefore = sumOfChains(sums.products_, 2 * kOrders * j + kOrders + order);
+      single[2 * j] = j == 0 ? withItself : 2 * withItself - single[0];
+      if (j > 0) single[2 * j - 1] = j == 1 ? withOneBefore : 2 * withOneBefore - single[1];
     }
-    completeProducts(recurrence, products);
-    return highParts(products);
+    Matrix products(m * m);
+    for (std::size_t j = 0; j < m; ++j)
+      for (std::size_t k = 0; k < m; ++k) products[j * m + k] = (single[j + k] + single[j < k ? k - j : j - k]) / 2;
+    return products;
   };
   const auto columnOf = [&](std::size_t order) {
     std::vector<double> elements;
@@ -103,7 +107,7 @@ DeviationGains::DeviationGains(const DeviationSums& sums, const Recurrence& recu
       elements.push_back(sumOfChains(sums.withFunction_[order], j / 2 + (j % 2 == 0 ? 0 : (m + 1) / 2)));
     return elements;
   };
-  const Matrix d = derivatives(recurrence, m), dd = product(d, d, m);
+  const Matrix d = derivatives(chebyshevRecurrence(m), m), dd = product(d, d, m);
   ofFunction_ = product(d, columnOf(0), 1);
   addTo(ofFunction_, product(dd, columnOf(1), 1));
   const Matrix second = productsOf(1);
@@ -119,14 +123,13 @@ DeviationGains::DeviationGains(const DeviationSums& sums, const Recurrence& recu
   }
 }
 
-// Between two places of the grid a polynomial is at most twice as large as on it, for 2 terms^2 below the number of
-// places (Markov's inequality); the norms lie within a factor of 2 of each other.
-std::optional<double> DeviationGains::error(std::size_t addends, double largest) const {
+// With n places an element of B that is summed is off by n |d| roundings at most, any other by three times that; beside
+// each stands the product of two norms, n / 4 at least. Both hold for the series too: no polynomial is above 1.
+std::optional<double> DeviationGains::error(std::size_t addends) const {
   const double share = largestDeviation_ * ofDerivative_;
   if (!(largestDeviation_ <= kMostDeviation) || !(share <= 0.25)) return std::nullopt;
   const double roundings = static_cast<double>(addends + 4 * terms_ + 16) * kUnitRoundoff;
-  return 4 * share * (completion_.growth * roundings + completion_.rounding) +
-         12 * share * share * share * largest * largest;
+  return 48 * share * roundings + 48 * share * share * share;
 }
 
 }  // namespace tavimor

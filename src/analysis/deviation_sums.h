@@ -1,8 +1,9 @@
 #pragma once
 
 #include <optional>
+#include <vector>
 
-#include "analysis/neighbour_products.h"
+#include "analysis/pair_sums.h"
 
 namespace tavimor {
 
@@ -24,9 +25,10 @@ struct OppositeDeviations {
   const double *functionInFront, *functionBehind;
 };
 
-/// These sums for one part of an axis of at most kMostCompleted terms. A polynomial is the same at opposite places or,
-/// for odd numbers, the negative: sums with an even one take the sum of both weights, those with an odd one the
-/// difference. Of the products only those of neighbours are summed: the others follow from them.
+/// These sums for one part of an axis, in Chebyshev's polynomials. A polynomial is the same at opposite places or, for
+/// odd numbers, the negative: sums with an even one take the sum of both weights, those with an odd one the difference.
+/// Of the products only those of neighbours are summed: they give the sums of T_0 .. T_{2q} alone, q = terms - 1, and
+/// these all others.
 class DeviationSums {
  public:
   explicit DeviationSums(std::size_t terms);
@@ -48,20 +50,18 @@ class DeviationSums {
 /// What the sums gain.
 class DeviationGains {
  public:
-  DeviationGains(const DeviationSums& sums, const Recurrence& recurrence);
+  explicit DeviationGains(const DeviationSums& sums);
 
   double ofProduct(std::size_t j, std::size_t k) const { return ofProducts_[j * terms_ + k]; }
   double ofFunction(std::size_t j) const { return ofFunction_[j]; }
 
   /// How far a gain can be off at most, beside the product of the norms of what is multiplied. `addends` is the longest
-  /// chain of additions, `largest` the magnitude of the polynomials at most. Nothing where the series does not converge
-  /// fast enough to tell.
-  std::optional<double> error(std::size_t addends, double largest) const;
+  /// chain of additions. Nothing where the series does not converge fast enough to tell.
+  std::optional<double> error(std::size_t addends) const;
 
  private:
   std::size_t terms_;
   double largestDeviation_, ofDerivative_ = 0.0;  // the most that a derivative is larger
-  CompletionErrors completion_;
   std::vector<double> ofProducts_, ofFunction_;
 };
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "analysis/chebyshev_basis.h"
 #include "analysis/deviation_sums.h"
 
 namespace tavimor {
@@ -11,7 +12,7 @@ namespace {
 
 constexpr std::size_t kLookedAt = 64;  // values, before all are
 
-static_assert(2 * kMostCompleted * kMostCompleted < kLongAxis);  // see DeviationGains::error
+enum class Polynomials { Chebyshev, DiscreteChebyshev };
 
 struct GridSums : PartSums {
   explicit GridSums(std::size_t terms) : PartSums(terms), deviations(terms) {}
@@ -22,9 +23,11 @@ struct GridSums : PartSums {
 // The buffers of one thread and what it does with a block of places and those opposite to them.
 class GridBlocks {
  public:
-  GridBlocks(const AxisData& axis, const AxisBasis& basis, const FunctionValues& function, const PairSums& sums)
+  GridBlocks(const AxisData& axis, const AxisBasis& basis, Polynomials kind, const FunctionValues& function,
+             const PairSums& sums)
       : axis_(axis),
         basis_(basis),
+        kind_(kind),
         function_(function),
         sums_(sums),
         width_(Pair(1.0) / scaled(basis.frame.scale, basis.frame.exponent)),
@@ -45,19 +48,18 @@ class GridBlocks {
 
  private:
   void fillBasis(std::size_t first, std::size_t count, PartSums& part) {
-    const double unit = unitOfGrid(axis_.count);
+    const double unit = basis_.frame.unit;
     const double start = 2.0 * static_cast<double>(first) - static_cast<double>(axis_.count - 1);
-    for (std::size_t n = 0; n < count; ++n) t_[n] = (start + steps_[n]) * unit;
-    std::fill(t_.begin() + static_cast<std::ptrdiff_t>(count), t_.end(), 0.0);
+    for (std::size_t n = 0; n < count; ++n) t_.high[n] = (start + steps_[n]) * unit;
+    std::fill(t_.high.begin() + static_cast<std::ptrdiff_t>(count), t_.high.end(), 0.0);
+    part.largestCoordinate = std::max(part.largestCoordinate, std::fabs(t_.high[0]));
     beginPolynomials(count, polynomials_);
-    part.largestCoordinate = std::max(part.largestCoordinate, std::fabs(t_[0]));
-    const Pairs all = polynomials_;
-    for (std::size_t j = 0; j < basis_.recurrence.size(); ++j) {
-      const Pairs current = all + j * kMostDotted, before = j > 0 ? all + (j - 1) * kMostDotted : all;
-      const double found = sums_.advanceOnGrid(basis_.recurrence[j], t_.data(), current, before, kMostDotted,
-                                               all + (j + 1) * kMostDotted);
-      part.largest[j + 1] = found <= part.largest[j + 1] ? part.largest[j + 1] : found;
+    if (kind_ == Polynomials::DiscreteChebyshev) {
+      fillPolynomials(basis_.recurrence, sums_, Pairs(t_), kMostDotted, polynomials_, part.largest);
+      return;
     }
+    std::copy(t_.high.begin(), t_.high.end(), polynomials_.high.begin() + kMostDotted);
+    fillChebyshevs(sums_, axis_.terms, polynomials_);
   }
 
   // The even polynomials first, then the odd ones.
@@ -89,24 +91,43 @@ class GridBlocks {
     std::fill(x_.high.begin() + static_cast<std::ptrdiff_t>(count), x_.high.end(), frame.middle.high);
     std::fill(x_.low.begin() + static_cast<std::ptrdiff_t>(count), x_.low.end(), frame.middle.low);
     const double unit = std::ldexp(frame.scale.high, frame.exponent);
-    return sums_.deviations(Pairs(x_), t_.data(), frame.middle, width, unit, kMostDotted, deviation.data());
+    return sums_.deviations(Pairs(x_), t_.high.data(), frame.middle, width, unit, kMostDotted, deviation.data());
   }
 
   const AxisData& axis_;
   const AxisBasis& basis_;
+  const Polynomials kind_;
   const FunctionValues& function_;
   const PairSums& sums_;
   Pair width_;  // of the coordinate's unit
-  std::vector<double> t_ = std::vector<double>(kMostDotted), steps_ = t_, frontDeviation_ = t_, backDeviation_ = t_;
-  PairList x_{kMostDotted}, polynomials_, front_{kMostDotted}, back_{kMostDotted}, even_{kMostDotted},
+  std::vector<double> steps_ = std::vector<double>(kMostDotted), frontDeviation_ = steps_, backDeviation_ = steps_;
+  PairList t_{kMostDotted}, x_{kMostDotted}, polynomials_, front_{kMostDotted}, back_{kMostDotted}, even_{kMostDotted},
       odd_{kMostDotted};
 };
 
-PairMatrix productsOnGrid(const AxisData& axis) {
-  PairMatrix products(axis.terms, axis.terms);
+// The axis as a grid from its first value to its last one.
+AxisData gridOf(const AxisData& axis) {
+  AxisData grid = axis;
+  if (axis.equallySpaced()) return grid;
+  grid.values = {};
+  grid.lower = valueRead(axis.values.front(), axis.reading);
+  grid.upper = valueRead(axis.values.back(), axis.reading);
+  return grid;
+}
+
+GridProducts discreteProductsOnGrid(const AxisData& axis) {
+  GridProducts grid{PairMatrix(axis.terms, axis.terms), 0.0};
   const std::vector<Pair> norms = squaredNormsOfSpaced(axis.count, axis.terms);
-  for (std::size_t j = 0; j < axis.terms; ++j) products(j, j) = norms[j];
-  return products;
+  for (std::size_t j = 0; j < axis.terms; ++j) {
+    grid.products(j, j) = norms[j];
+    grid.error = std::max(grid.error, 4 * static_cast<double>(axis.terms) * kPairError * norms[j].high);
+  }
+  return grid;
+}
+
+GridProducts productsOnGrid(const AxisData& axis, const AxisFrame& frame, Polynomials kind) {
+  if (kind == Polynomials::DiscreteChebyshev) return discreteProductsOnGrid(axis);
+  return chebyshevProductsOnGrid(axis.count, axis.terms, frame.unit / axisFrame(gridOf(axis)).unit);
 }
 
 // Whether some of the values lie where a grid from the first to the last one has them.
@@ -122,26 +143,46 @@ bool looksLikeGrid(const AxisData& axis) {
   return true;
 }
 
-// The axis as a grid from its first value to its last one.
-AxisData gridOf(const AxisData& axis) {
-  AxisData grid = axis;
-  if (axis.equallySpaced()) return grid;
-  grid.values = {};
-  grid.lower = valueRead(axis.values.front(), axis.reading);
-  grid.upper = valueRead(axis.values.back(), axis.reading);
-  return grid;
-}
-
-AxisBasis gridBasis(const AxisData& axis) {
-  AxisBasis basis = framedBasis(gridOf(axis));
-  if (!axis.equallySpaced())
+AxisBasis gridBasis(const AxisData& axis, Polynomials kind) {
+  const AxisData grid = gridOf(axis);
+  AxisBasis basis = framedBasis(grid);
+  if (!basis.frame.usable) return basis;
+  if (kind == Polynomials::DiscreteChebyshev) {
+    basis.recurrence = recurrenceOfSpaced(axis.count, axis.terms);
+    return basis;
+  }
+  basis.frame = stretchedFrame(grid, basis.frame);
+  basis.recurrence = chebyshevRecurrence(axis.terms);
+  if (!axis.equallySpaced()) {
+    const double largest = std::fabs(basis.frame.largestValue * basis.frame.scale.high);
     basis.frame.coordinateError =
-        (kTypedError + 2 * kPairError) * std::ldexp(basis.frame.largestValue, basis.frame.exponent) + 8 * kPairError;
-  if (basis.frame.usable) basis.recurrence = recurrenceOfSpaced(axis.count, axis.terms);
+        (kTypedError + 2 * kPairError) * std::ldexp(largest, basis.frame.exponent) + 8 * kPairError;
+  }
   return basis;
 }
 
-bool finish(const AxisData& axis, const std::vector<GridSums>& parts, std::size_t addends,
+// What the deviations of listed values add. False where they are too large to tell.
+bool addGains(const DeviationSums& deviations, std::size_t addends, PairMatrix& products, LongAxisSums& result,
+              double& normError) {
+  const DeviationGains gains(deviations);
+  const auto error = gains.error(addends);
+  if (!error) return false;
+  normError += *error;
+  result.magnitudes.further = *error;
+  for (std::size_t j = 0; j < products.rows; ++j) {
+    result.y[j] = result.y[j] + Pair(gains.ofFunction(j));
+    for (std::size_t k = 0; k < products.rows; ++k) products(j, k) = products(j, k) + Pair(gains.ofProduct(j, k));
+  }
+  return true;
+}
+
+double leastNorm(const PairMatrix& products) {
+  double least = products(0, 0).high;
+  for (std::size_t j = 0; j < products.rows; ++j) least = std::min(least, products(j, j).high);
+  return least;
+}
+
+bool finish(const AxisData& axis, Polynomials kind, const std::vector<GridSums>& parts, std::size_t addends,
             const AnalysisOptions& options, LongAxisSums& result) {
   const std::size_t evenCount = (axis.terms + 1) / 2;
   DeviationSums deviations(axis.terms);
@@ -151,41 +192,44 @@ bool finish(const AxisData& axis, const std::vector<GridSums>& parts, std::size_
     for (std::size_t j = 0; j < axis.terms; ++j)
       result.y[j] = result.y[j] + part.y.total(j / 2 + (j % 2 == 0 ? 0 : evenCount));
   }
-  PairMatrix products = productsOnGrid(axis);
-  double normError = 4 * static_cast<double>(axis.terms) * kPairError + sumError(axis.count);
-  if (axis.equallySpaced()) {
+  if (kind == Polynomials::Chebyshev)
+    result.magnitudes = chebyshevMagnitudes(result.magnitudes.largestCoordinate, axis.terms);
+  GridProducts grid = productsOnGrid(axis, result.basis.frame, kind);
+  double normError = grid.error / leastNorm(grid.products) + sumError(axis.count);
+  if (axis.equallySpaced())
     result.basis.exactValues = isExactlySpaced(axis);
-  } else {
-    const DeviationGains gains(deviations, result.basis.recurrence);
-    const auto error =
-        gains.error(addends, *std::max_element(result.magnitudes.largest.begin(), result.magnitudes.largest.end()));
-    if (!error) return false;
-    normError += *error;
-    result.magnitudes.further = *error;
-    for (std::size_t j = 0; j < axis.terms; ++j) {
-      result.y[j] = result.y[j] + Pair(gains.ofFunction(j));
-      for (std::size_t k = 0; k < axis.terms; ++k) products(j, k) = products(j, k) + Pair(gains.ofProduct(j, k));
-    }
-  }
-  orthonormalise(result.basis, products, normError, result.magnitudes, options);
+  else if (!addGains(deviations, addends, grid.products, result, normError))
+    return false;
+  orthonormalise(result.basis, grid.products, normError, result.magnitudes, options);
   return true;
+}
+
+std::optional<LongAxisSums> sumsIn(Polynomials kind, const AxisData& axis, const FunctionValues& function,
+                                   const AnalysisOptions& options) {
+  LongAxisSums result(gridBasis(axis, kind));
+  if (!result.basis.frame.usable) return axis.equallySpaced() ? std::optional(result) : std::nullopt;
+  if (kind == Polynomials::Chebyshev && !isPreciseInChebyshevs(result.basis)) return std::nullopt;
+  const AxisParts cut((axis.count + 1) / 2);
+  std::vector<GridSums> parts(cut.count(), GridSums(axis.terms));
+  const double terms = static_cast<double>(axis.terms);
+  sumParts(cut, 40 * terms, options, parts,
+           [&] { return GridBlocks(axis, result.basis, kind, function, pairSums(options.instructionSet)); });
+  const std::size_t addends = kBlock + kChains + cut.blocksOfPart + cut.count();
+  if (!finish(axis, kind, parts, addends, options, result)) return std::nullopt;
+  return result;
 }
 
 }  // namespace
 
 std::optional<LongAxisSums> gridAxisSums(const AxisData& axis, const FunctionValues& function,
                                          const AnalysisOptions& options) {
-  if (!axis.equallySpaced() && (axis.terms > kMostCompleted || !looksLikeGrid(axis))) return std::nullopt;
-  LongAxisSums result(gridBasis(axis));
-  if (!result.basis.frame.usable) return axis.equallySpaced() ? std::optional(result) : std::nullopt;
-  const AxisParts cut((axis.count + 1) / 2);
-  std::vector<GridSums> parts(cut.count(), GridSums(axis.terms));
-  const double terms = static_cast<double>(axis.terms);
-  sumParts(cut, 40 * terms, options, parts,
-           [&] { return GridBlocks(axis, result.basis, function, pairSums(options.instructionSet)); });
-  const std::size_t addends = kBlock + kChains + cut.blocksOfPart + cut.count();
-  if (!finish(axis, parts, addends, options, result)) return std::nullopt;
-  return result;
+  if (!axis.equallySpaced() && !looksLikeGrid(axis)) return std::nullopt;
+  if (axis.terms > 1)
+    if (auto sums = sumsIn(Polynomials::Chebyshev, axis, function, options);
+        sums && sums->basis.error < kMostChebyshevError)
+      return sums;
+  if (!axis.equallySpaced()) return std::nullopt;
+  return sumsIn(Polynomials::DiscreteChebyshev, axis, function, options);
 }
 
 }  // namespace tavimor

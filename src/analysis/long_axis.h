@@ -4,10 +4,10 @@
 
 namespace tavimor {
 
-/// Values that lie on a grid but for their last digits have the discrete Chebyshev polynomials: see grid_axis.h. Most
-/// others have Chebyshev's own: see chebyshev_axis.h. What lies too unevenly for these has polynomials made of a sample
-/// of its values, and all their inner products are summed.
-/// Errors: OutOfMemory, AnalysisCancelled.
+/// Values that lie on a grid but for their last digits share their polynomials with those opposite: see grid_axis.h. Of
+/// others the inner products of Chebyshev's polynomials are summed: see chebyshev_axis.h. What lies too unevenly for
+/// these has polynomials made of a sample of its values, and all their inner products are summed. Errors: OutOfMemory,
+/// AnalysisCancelled.
 LongAxisSums longAxisSums(const AxisData& axis, const FunctionValues& function, const AnalysisOptions& options);
 
 /// Calls visit(first, count, polynomials) for consecutive blocks of at most kMostDotted values: polynomial j at value

@@ -125,10 +125,6 @@ struct PairSums {
   double (*advance)(const RecurrenceStep& step, ConstPairs t, ConstPairs current, ConstPairs previous,
                     std::size_t count, Pairs next);
 
-  /// The same where the coordinates are doubles and the step has no shift.
-  double (*advanceOnGrid)(const RecurrenceStep& step, const double* t, ConstPairs current, ConstPairs previous,
-                          std::size_t count, Pairs next);
-
   /// The step of Chebyshev's polynomials: next = 2 t current - previous, with the error of `advance` at most.
   void (*advanceChebyshev)(ConstPairs t, ConstPairs current, ConstPairs previous, std::size_t count, Pairs next);
 

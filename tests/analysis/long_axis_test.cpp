@@ -78,12 +78,14 @@ const LongCase kLongCases[] = {
     {"OneValueFarFromTheOthers", oneFarAway, false, 6},
     {"UnevenOfDegree1", uneven, false, 1},
     {"UnevenOfDegree0", uneven, false, 0},
+    {"EquallySpacedOfDegree0", nearlyEqual, true, 0},
+    {"EquallySpacedOfDegree1", nearlyEqual, true, 1},
 };
 
 class LongAxis : public testing::TestWithParam<LongCase> {};
 
 TEST_P(LongAxis, GivesWhatExactArithmeticGives) {
-  for (const std::size_t count : {kLongAxis, kLongAxis + 1}) {
+  for (const std::size_t count : {kLongAxis, kLongAxis + 1, kLongAxis + 3000}) {
     const std::vector<double> values = GetParam().values(count);
     const double centre = std::round(10 * values[count / 2]) / 10;
     Dimension model = test::problem({{"x", values, GetParam().degree, centre}});
@@ -119,19 +121,23 @@ TEST(ChebyshevAxis, IsLeftToOtherPolynomialsWhereValuesLieTooUnevenly) {
   EXPECT_FALSE(isInChebyshevs(oneFarAway));
 }
 
+// So many terms that Chebyshev's polynomials are too rough.
 TEST(LongAxisOfManyTerms, IsTheSameFitAsThatOfFewerOnItsPart) {
-  Dimension model = test::problem({{"x", uneven(kLongAxis), 14, 0}});
-  test::tabulate(model, [](double x, double, double, double) { return std::cos(x); });
-  const ProblemData data = problemData(model);
-  const Decomposition many = decompose(data);
-  ASSERT_EQ(many.finding.verdict, Verdict::Exact);
-  model.Degree[0] = 10;
-  const ProblemData fewer = problemData(model);
-  const PreciseFit fit = preciseFit(decompose(fewer), centresOf(fewer));
-  const PreciseFit part = preciseFit(withTerms(many, {11, 1, 1, 1}), centresOf(data));
-  for (std::size_t n = 0; n < fit.termCount(); ++n) {
-    const Pair difference = fit.coefficients[n].solution.value - part.coefficients[n].solution.value;
-    EXPECT_LE(std::fabs(difference.high), fit.coefficients[n].solution.bound + part.coefficients[n].solution.bound);
+  for (const bool equallySpaced : {true, false}) {
+    Dimension model = test::problem({{"x", equallySpaced ? nearlyEqual(kLongAxis) : uneven(kLongAxis), 30, 0}});
+    model.EquallySpaced[0] = equallySpaced;
+    test::tabulate(model, [](double x, double, double, double) { return std::cos(x); });
+    const ProblemData data = problemData(model);
+    const Decomposition many = decompose(data);
+    ASSERT_EQ(many.finding.verdict, Verdict::Exact);
+    model.Degree[0] = 10;
+    const ProblemData fewer = problemData(model);
+    const PreciseFit fit = preciseFit(decompose(fewer), centresOf(fewer));
+    const PreciseFit part = preciseFit(withTerms(many, {11, 1, 1, 1}), centresOf(data));
+    for (std::size_t n = 0; n < fit.termCount(); ++n) {
+      const Pair difference = fit.coefficients[n].solution.value - part.coefficients[n].solution.value;
+      EXPECT_LE(std::fabs(difference.high), fit.coefficients[n].solution.bound + part.coefficients[n].solution.bound);
+    }
   }
 }
 
