@@ -14,6 +14,10 @@ constexpr std::size_t kLanes = 4;
 
 TAVIMOR_INLINE Vector productError(Vector a, Vector b, Vector product) { return _mm256_fmsub_pd(a, b, product); }
 
+// Sums as a * 1 + b, the same bits: many processors add and multiply in units of their own, and these loops add most.
+TAVIMOR_INLINE Vector multiplierSum(Vector a, Vector b) { return _mm256_fmadd_pd(a, _mm256_set1_pd(1.0), b); }
+TAVIMOR_INLINE Vector multiplierDifference(Vector a, Vector b) { return _mm256_fnmadd_pd(b, _mm256_set1_pd(1.0), a); }
+
 #include "analysis/pair_sums.inc"
 
 }  // namespace
