@@ -22,13 +22,6 @@ Matrix product(const Matrix& a, const Matrix& b, std::size_t columns) {
   return result;
 }
 
-Matrix flipped(const Matrix& matrix, std::size_t m) {
-  Matrix result(matrix.size());
-  for (std::size_t row = 0; row < m; ++row)
-    for (std::size_t column = 0; column < m; ++column) result[column * m + row] = matrix[row * m + column];
-  return result;
-}
-
 Matrix highParts(const PairMatrix& matrix) {
   Matrix result;
   for (const Pair& element : matrix.elements) result.push_back(element.high);
@@ -51,85 +44,79 @@ Matrix derivatives(const Recurrence& recurrence, std::size_t m) {
   return highParts(d);
 }
 
-double sumOfChains(const std::vector<double>& sums, std::size_t n) {
-  const auto from = sums.begin() + static_cast<std::ptrdiff_t>(n * kChains);
-  return std::accumulate(from, from + kChains, 0.0);
-}
-
 void addTo(std::vector<double>& sums, const std::vector<double>& others) {
   for (std::size_t n = 0; n < sums.size(); ++n) sums[n] += others[n];
 }
 
 }  // namespace
 
-DeviationSums::DeviationSums(std::size_t terms) : terms_(terms), products_(2 * kOrders * terms * kChains) {
-  for (std::vector<double>& order : withFunction_) order.resize(terms * kChains);
+DeviationSums::DeviationSums(std::size_t terms)
+    : terms_(terms), single_(terms * kChains), withLast_(single_), withFunction_(single_) {}
+
+void DeviationSums::addWeighted(const PairSums& sums, const double* polynomials, const double* forEven,
+                                const double* forOdd, std::vector<double>& result) const {
+  const std::size_t evenCount = (terms_ + 1) / 2;
+  sums.doubleDots(forEven, polynomials, 2 * kMostDotted, evenCount, kMostDotted, result.data());
+  sums.doubleDots(forOdd, polynomials + kMostDotted, 2 * kMostDotted, terms_ / 2, kMostDotted,
+                  result.data() + evenCount * kChains);
 }
 
 void DeviationSums::add(const PairSums& sums, const OppositeDeviations& block, const double* polynomials) {
-  FoldedWeights weights;
-  const double* ones = polynomials;
-  sums.foldWeights(block.front, ones, block.back, ones, weights);
-  sums.neighbourDots(weights, polynomials, terms_, products_.data());
-  sums.foldWeights(block.front, block.functionInFront, block.back, block.functionBehind, weights);
-  const std::size_t evenCount = (terms_ + 1) / 2;
-  sums.weightedDots({ones, weights.firstSum, weights.secondSum}, polynomials, 2 * kMostDotted, evenCount, kMostDotted,
-                    withFunction_[0].data(), withFunction_[1].data());
-  sums.weightedDots({ones, weights.firstDifference, weights.secondDifference}, polynomials + kMostDotted,
-                    2 * kMostDotted, terms_ / 2, kMostDotted, withFunction_[0].data() + evenCount * kChains,
-                    withFunction_[1].data() + evenCount * kChains);
+  double sum[kMostDotted], difference[kMostDotted];
+  const auto fold = [&](const double* frontFactor, const double* backFactor) {
+    sums.foldWeights(block.front, frontFactor, block.back, backFactor, kMostDotted, sum, difference);
+  };
+  fold(block.functionInFront, block.functionBehind);
+  addWeighted(sums, polynomials, sum, difference, withFunction_);
+  const double *ones = polynomials, *last = polynomials + (terms_ - 1) * kMostDotted;
+  fold(ones, ones);
+  addWeighted(sums, polynomials, sum, difference, single_);
+  fold(last, last);
+  const bool lastIsEven = terms_ % 2 == 1;
+  addWeighted(sums, polynomials, lastIsEven ? sum : difference, lastIsEven ? difference : sum, withLast_);
 }
 
 void DeviationSums::add(const DeviationSums& part) {
-  addTo(products_, part.products_);
-  for (std::size_t order = 0; order < kOrders; ++order) addTo(withFunction_[order], part.withFunction_[order]);
+  addTo(single_, part.single_);
+  addTo(withLast_, part.withLast_);
+  addTo(withFunction_, part.withFunction_);
   largest = part.largest <= largest ? largest : part.largest;
 }
 
-DeviationGains::DeviationGains(const DeviationSums& sums) : terms_(sums.terms_), largestDeviation_(sums.largest) {
-  const std::size_t m = terms_;
-  const auto productsOf = [&](std::size_t order) {
-    std::vector<double> single(2 * m);  // the sums of T_0 .. T_{2m-2}
-    for (std::size_t j = 0; j < m; ++j) {
-      const double withItself = sumOfChains(sums.products_, 2 * kOrders * j + order);
-      const double withOneBefore = sumOfChains(sums.products_, 2 * kOrders * j + kOrders + order);
-      single[2 * j] = j == 0 ? withItself : 2 * withItself - single[0];
-      if (j > 0) single[2 * j - 1] = j == 1 ? withOneBefore : 2 * withOneBefore - single[1];
-    }
-    Matrix products(m * m);
-    for (std::size_t j = 0; j < m; ++j)
-      for (std::size_t k = 0; k < m; ++k) products[j * m + k] = (single[j + k] + single[j < k ? k - j : j - k]) / 2;
-    return products;
-  };
-  const auto columnOf = [&](std::size_t order) {
-    std::vector<double> elements;
-    for (std::size_t j = 0; j < m; ++j)
-      elements.push_back(sumOfChains(sums.withFunction_[order], j / 2 + (j % 2 == 0 ? 0 : (m + 1) / 2)));
-    return elements;
-  };
-  const Matrix d = derivatives(chebyshevRecurrence(m), m), dd = product(d, d, m);
-  ofFunction_ = product(d, columnOf(0), 1);
-  addTo(ofFunction_, product(dd, columnOf(1), 1));
-  const Matrix second = productsOf(1);
-  Matrix oneSide = product(d, productsOf(0), m);
-  addTo(oneSide, product(dd, second, m));
-  addTo(oneSide, product(product(d, second, m), flipped(d, m), m));
-  ofProducts_ = oneSide;
-  addTo(ofProducts_, flipped(oneSide, m));
-  for (std::size_t j = 0; j < m; ++j) {
-    double row = 0.0;
-    for (std::size_t k = 0; k < m; ++k) row += std::fabs(d[j * m + k]);
-    ofDerivative_ = std::max(ofDerivative_, row);
+std::vector<double> DeviationSums::totals(const std::vector<double>& chains) const {
+  std::vector<double> sums;
+  for (std::size_t j = 0; j < terms_; ++j) {
+    const std::size_t place = j / 2 + (j % 2 == 0 ? 0 : (terms_ + 1) / 2);
+    const auto from = chains.begin() + static_cast<std::ptrdiff_t>(place * kChains);
+    sums.push_back(std::accumulate(from, from + kChains, 0.0));
   }
+  return sums;
+}
+
+DeviationGains::DeviationGains(const DeviationSums& sums)
+    : terms_(sums.terms_), largestDeviation_(sums.largest), ofProducts_(terms_ * terms_) {
+  const std::size_t m = terms_, last = m - 1;
+  std::vector<double> single = sums.totals(sums.single_);  // the sums of T_0 .. T_{2 last}
+  const std::vector<double> withLast = sums.totals(sums.withLast_);
+  for (std::size_t j = 1; j < m; ++j) single.push_back(2 * withLast[j] - single[last - j]);
+  Matrix products(m * m);
+  for (std::size_t j = 0; j < m; ++j)
+    for (std::size_t k = 0; k < m; ++k) products[j * m + k] = (single[j + k] + single[j < k ? k - j : j - k]) / 2;
+  const Matrix d = derivatives(chebyshevRecurrence(m), m);
+  ofFunction_ = product(d, sums.totals(sums.withFunction_), 1);
+  const Matrix oneSide = product(d, products, m);
+  for (std::size_t j = 0; j < m; ++j)
+    for (std::size_t k = 0; k < m; ++k) ofProducts_[j * m + k] = oneSide[j * m + k] + oneSide[k * m + j];
 }
 
 // With n places an element of B that is summed is off by n |d| roundings at most, any other by three times that; beside
-// each stands the product of two norms, n / 4 at least. Both hold for the series too: no polynomial is above 1.
+// each stands the product of two norms, n / 4 at least. No polynomial is above 1, nor its derivatives above powers of
+// (terms - 1)^2: what the series leaves out comes to 9 share^2.
 std::optional<double> DeviationGains::error(std::size_t addends) const {
-  const double share = largestDeviation_ * ofDerivative_;
-  if (!(largestDeviation_ <= kMostDeviation) || !(share <= 0.25)) return std::nullopt;
+  const double share = largestDeviation_ * static_cast<double>((terms_ - 1) * (terms_ - 1));
+  if (!(share <= kMostShare)) return std::nullopt;
   const double roundings = static_cast<double>(addends + 4 * terms_ + 16) * kUnitRoundoff;
-  return 48 * share * roundings + 48 * share * share * share;
+  return 48 * share * roundings + 9 * share * share;
 }
 
 }  // namespace tavimor

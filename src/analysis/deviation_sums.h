@@ -7,17 +7,15 @@
 
 namespace tavimor {
 
-/// What the deviations d of values from their grid add to sums over the grid: with ' the derivative,
-///   P_j(t + d) = P_j(t) + d P_j'(t) + d^2/2 P_j''(t) + ..,   P' = D P,
-/// so that with A = sum of d F P and B = sum of d P P^T, and A2, B2 the same with d^2/2 for d,
-///   sum of F P     gains  D A + D^2 A2,
-///   sum of P P^T   gains  D B + (D B)^T + D^2 B2 + 2 D B2 D^T + (D^2 B2)^T.
-/// The deviations are so small that their sums need no more than doubles.
+/// What the deviations d of values from their grid add to sums over the grid: with ' the derivative, T' = D T,
+///   T_j(t + d) = T_j(t) + d T_j'(t) + ..,
+/// so that with A = sum of d F T and B = sum of d T T^T,
+///   sum of F T     gains  D A,
+///   sum of T T^T   gains  D B + (D B)^T.
+/// The deviations are so small that the sums need no more than doubles, and that what is left out is next to nothing.
 
-/// The most that a value may lie off its grid, in the coordinate of AxisFrame.
-constexpr double kMostDeviation = 0x1p-42;
-
-constexpr std::size_t kOrders = 2;  // of deviations
+/// The most that a deviation may be times the largest sum of magnitudes in a row of D, (terms - 1)^2.
+constexpr double kMostShare = 0x1p-40;
 
 /// The deviations at the two halves of a block of a grid, place by place opposite each other.
 struct OppositeDeviations {
@@ -27,8 +25,8 @@ struct OppositeDeviations {
 
 /// These sums for one part of an axis, in Chebyshev's polynomials. A polynomial is the same at opposite places or, for
 /// odd numbers, the negative: sums with an even one take the sum of both weights, those with an odd one the difference.
-/// Of the products only those of neighbours are summed: they give the sums of T_0 .. T_{2q} alone, q = terms - 1, and
-/// these all others.
+/// Of the products the sums of T_0 .. T_q alone and of T_q with the others are made, q = terms - 1: they give the sums
+/// up to T_{2q}, and these all others.
 class DeviationSums {
  public:
   explicit DeviationSums(std::size_t terms);
@@ -42,9 +40,13 @@ class DeviationSums {
  private:
   friend class DeviationGains;
 
+  // kChains of each, the even polynomials first.
+  void addWeighted(const PairSums& sums, const double* polynomials, const double* forEven, const double* forOdd,
+                   std::vector<double>& result) const;
+  std::vector<double> totals(const std::vector<double>& chains) const;
+
   std::size_t terms_;
-  std::vector<double> products_;               // of each polynomial: see PairSums::neighbourDots
-  std::vector<double> withFunction_[kOrders];  // the even polynomials first, kChains of each
+  std::vector<double> single_, withLast_, withFunction_;
 };
 
 /// What the sums gain.
@@ -61,7 +63,7 @@ class DeviationGains {
 
  private:
   std::size_t terms_;
-  double largestDeviation_, ofDerivative_ = 0.0;  // the most that a derivative is larger
+  double largestDeviation_;
   std::vector<double> ofProducts_, ofFunction_;
 };
 

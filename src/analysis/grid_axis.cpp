@@ -130,15 +130,17 @@ GridProducts productsOnGrid(const AxisData& axis, const AxisFrame& frame, Polyno
   return chebyshevProductsOnGrid(axis.count, axis.terms, frame.unit / axisFrame(gridOf(axis)).unit);
 }
 
-// Whether some of the values lie where a grid from the first to the last one has them.
+// Whether some of the values lie where a grid from the first to the last one has them, as far as doubles can tell.
 bool looksLikeGrid(const AxisData& axis) {
   const double first = axis.values.front(), last = axis.values.back();
   const double step = (last - first) / static_cast<double>(axis.count - 1);
   const double rounding = 8 * kUnitRoundoff * std::max(std::fabs(first), std::fabs(last));
+  const double degree = static_cast<double>(axis.terms - 1);
+  const double most = kMostShare * std::fabs(last - first);
   for (std::size_t n = 0; n < kLookedAt; ++n) {
     const std::size_t i = n * (axis.count - 1) / (kLookedAt - 1);
     const double deviation = axis.values[i] - (first + static_cast<double>(i) * step);
-    if (!(std::fabs(deviation) <= kMostDeviation * std::fabs(last - first) + rounding)) return false;
+    if (!((std::fabs(deviation) + rounding) * degree * degree <= most)) return false;
   }
   return true;
 }

@@ -68,17 +68,6 @@ struct RecurrenceStep {
   Pair back;
 };
 
-/// The weights that deviations d give a factor at places opposite each other, f d of first order and f d^2/2 of second:
-/// their sums and differences.
-struct FoldedWeights {
-  double firstSum[kMostDotted], firstDifference[kMostDotted], secondSum[kMostDotted], secondDifference[kMostDotted];
-};
-
-/// Values with two weights each.
-struct WeightedRow {
-  const double *values, *first, *second;
-};
-
 /// The routines for one instruction set. Counts named so are multiples of kChains.
 struct PairSums {
   Magnitudes (*magnitudes)(const double* values, std::size_t anyCount);
@@ -100,15 +89,9 @@ struct PairSums {
   /// The sums of some columns alone: sums[c][chain] += sum of columns[c * stride + n].
   void (*columnSums)(ConstPairs columns, std::size_t stride, std::size_t columnCount, std::size_t count, Pairs sums);
 
-  /// Like `dots`, in doubles and for two weights: firstSums[c][chain] += sum of row.first[n] * row.values[n] *
-  /// columns[c * stride + n], and secondSums with row.second.
-  void (*weightedDots)(const WeightedRow& row, const double* columns, std::size_t stride, std::size_t columnCount,
-                       std::size_t count, double* firstSums, double* secondSums);
-
-  /// Of rows of kMostDotted values, each with itself, times the sums of the weights, and with the row before, times
-  /// their differences: sums[row] has kChains of the first and of the second order of the one, and as many of the
-  /// other. The first row has none before and is taken for that.
-  void (*neighbourDots)(const FoldedWeights& weights, const double* rows, std::size_t rowCount, double* sums);
+  /// Like `dots`, in doubles: sums[c * kChains + chain] += sum of weights[n] * columns[c * stride + n].
+  void (*doubleDots)(const double* weights, const double* columns, std::size_t stride, std::size_t columnCount,
+                     std::size_t count, double* sums);
 
   /// t = (x - middle) * scale * unit at `count` places; unit is a power of two.
   void (*coordinates)(ConstPairs x, const Pair& middle, const Pair& scale, double unit, std::size_t count, Pairs t);
@@ -117,9 +100,9 @@ struct PairSums {
   double (*deviations)(ConstPairs x, const double* t, const Pair& middle, const Pair& width, double unit,
                        std::size_t count, double* result);
 
-  /// Of kMostDotted deviations and factors on each side.
+  /// Sums and differences of front * frontFactor and back * backFactor, in doubles.
   void (*foldWeights)(const double* front, const double* frontFactor, const double* back, const double* backFactor,
-                      FoldedWeights& weights);
+                      std::size_t count, double* sum, double* difference);
 
   /// One step of the recurrence at `count` places t. Returns the largest magnitude among the results.
   double (*advance)(const RecurrenceStep& step, ConstPairs t, ConstPairs current, ConstPairs previous,

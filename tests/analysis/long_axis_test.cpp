@@ -7,6 +7,7 @@
 #include <random>
 
 #include "analysis/chebyshev_axis.h"
+#include "analysis/grid_axis.h"
 #include "analysis/precise_fit.h"
 #include "support/exact_fit.h"
 #include "support/problem.h"
@@ -108,17 +109,26 @@ TEST_P(LongAxis, GivesWhatExactArithmeticGives) {
 INSTANTIATE_TEST_SUITE_P(Cases, LongAxis, testing::ValuesIn(kLongCases),
                          [](const auto& one) { return std::string(one.param.name); });
 
-bool isInChebyshevs(std::vector<double> (*values)(std::size_t count)) {
+using Sums = std::optional<LongAxisSums>(const AxisData&, const FunctionValues&, const AnalysisOptions&);
+
+bool serves(Sums& sums, std::vector<double> (*values)(std::size_t count)) {
   const Dimension model = test::problem({{"x", values(kLongAxis), 6, 0}});
   const ProblemData data = problemData(model);
   const FunctionValues function = functionValues(*data.function, data.reading, pairSums(InstructionSet::Plain));
-  return chebyshevAxisSums(data.axis[0], function, {}).has_value();
+  return sums(data.axis[0], function, {}).has_value();
 }
 
 TEST(ChebyshevAxis, IsLeftToOtherPolynomialsWhereValuesLieTooUnevenly) {
-  EXPECT_TRUE(isInChebyshevs(uneven));
-  EXPECT_TRUE(isInChebyshevs(dense));
-  EXPECT_FALSE(isInChebyshevs(oneFarAway));
+  EXPECT_TRUE(serves(chebyshevAxisSums, uneven));
+  EXPECT_TRUE(serves(chebyshevAxisSums, dense));
+  EXPECT_FALSE(serves(chebyshevAxisSums, oneFarAway));
+}
+
+TEST(GridAxis, HasListsThatAreOffTheGridByTheirLastDigitsAlone) {
+  EXPECT_TRUE(serves(gridAxisSums, nearlyEqual));
+  EXPECT_TRUE(serves(gridAxisSums, backwards));
+  EXPECT_FALSE(serves(gridAxisSums, oneOffTheGrid));
+  EXPECT_FALSE(serves(gridAxisSums, uneven));
 }
 
 // So many terms that Chebyshev's polynomials are too rough.

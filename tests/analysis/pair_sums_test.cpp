@@ -147,6 +147,31 @@ TEST(PairSums, SumsOfColumnsAreTheSameEverywhereAndRight) {
   }
 }
 
+TEST(PairSums, FoldedWeightsAndSumsInDoublesAreTheSameEverywhere) {
+  PairList a = randomPairs(kMostDotted, 13), b = randomPairs(kMostDotted, 14);
+  PairList columns = randomPairs(6 * kMostDotted, 15);
+  const auto fold = [&](const PairSums& sums, std::vector<double>& sum, std::vector<double>& difference) {
+    sums.foldWeights(a.high.data(), a.low.data(), b.high.data(), b.low.data(), kMostDotted, sum.data(),
+                     difference.data());
+  };
+  const auto dots = [&](const PairSums& sums, std::size_t columnCount) {
+    std::vector<double> result(columnCount * kChains);
+    sums.doubleDots(a.high.data(), columns.high.data(), kMostDotted, columnCount, kMostDotted, result.data());
+    return result;
+  };
+  const PairSums& plain = pairSums(InstructionSet::Plain);
+  std::vector<double> wantedSum(kMostDotted), wantedDifference(kMostDotted);
+  fold(plain, wantedSum, wantedDifference);
+  EXPECT_EQ(wantedDifference[7], a.high[7] * a.low[7] - b.high[7] * b.low[7]);
+  for (const PairSums* sums : availableSets()) {
+    std::vector<double> sum(kMostDotted), difference(kMostDotted);
+    fold(*sums, sum, difference);
+    expectSameBits(sum, wantedSum);
+    expectSameBits(difference, wantedDifference);
+    for (const std::size_t columnCount : {1, 4, 6}) expectSameBits(dots(*sums, columnCount), dots(plain, columnCount));
+  }
+}
+
 std::vector<double> numbersOfAllKinds() {
   std::vector<double> values = {0.0, -0.0, 0.1, 1e14, 1e15, 123456789012345.0, 1e-8, 9.99999999999999e-9, 1e22, 5e-324};
   std::mt19937_64 random(8);
