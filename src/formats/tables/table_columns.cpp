@@ -6,6 +6,7 @@
 #include <limits>
 
 #include "formats/tables/table_records.h"
+#include "runtime/decimal_cells.h"
 #include "runtime/numeral.h"
 
 namespace tavimor {
@@ -33,10 +34,27 @@ const char* afterLineEnd(const char* at, const char* last) {
 // The rows from one line to the next: in most tables one column keeps its text for a while.
 class PlainRows {
  public:
-  PlainRows(char separator, std::size_t columns) : separator_(separator), cells_(columns), row_(columns) {}
+  PlainRows(char separator, std::size_t columns)
+      : separator_(separator), cells_(columns), row_(columns), decimals_(columns) {}
 
   // Reads a line that holds exactly the columns' finite numbers. Returns the place behind it, null for any other line.
-  const char* read(const char* at, const char* last) {
+  // The text begins at `before`, which may be `at`.
+  const char* read(const char* before, const char* at, const char* last) {
+    if (const char* behind = readDecimalCells(before, at, last, separator_, decimals_)) {
+      row_.swap(decimals_);
+      forgetCells();
+      return behind;
+    }
+    return readCells(at, last);
+  }
+
+  // The cells above are to be forgotten where their text goes.
+  void forgetCells() { std::fill(cells_.begin(), cells_.end(), std::string_view()); }
+
+  const std::vector<double>& row() const { return row_; }
+
+ private:
+  const char* readCells(const char* at, const char* last) {
     for (std::size_t k = 0; k < row_.size(); ++k) {
       at = readCell(afterBlanks(at, last, separator_), last, k);
       if (at == nullptr) return nullptr;
@@ -53,12 +71,6 @@ class PlainRows {
     return afterLineEnd(at, last);
   }
 
-  // The cells above are to be forgotten where their text goes.
-  void forgetCells() { std::fill(cells_.begin(), cells_.end(), std::string_view()); }
-
-  const std::vector<double>& row() const { return row_; }
-
- private:
   const char* readCell(const char* cell, const char* last, std::size_t k) {
     const std::string_view above = cells_[k];
     const char* const end = cell + above.size();
@@ -77,6 +89,7 @@ class PlainRows {
   char separator_;
   std::vector<std::string_view> cells_;  // the text of each number in `row_`
   std::vector<double> row_;
+  std::vector<double> decimals_;  // the next row, as far as it has been read
 };
 
 // Whether a number can have commas between its thousands: one to three digits that do not begin with 0, then three
@@ -159,7 +172,7 @@ class ColumnReader {
 
   const char* plainRow() {
     if (records_.at() == records_.last()) return nullptr;
-    return plain_.read(records_.at(), records_.last());
+    return plain_.read(first_, records_.at(), records_.last());
   }
 
   // The line with points for commas, where that is all that tells it from a plain row.
@@ -175,7 +188,7 @@ class ColumnReader {
     std::replace(pointed_.begin(), pointed_.end(), ',', '.');
     plain_.forgetCells();
     const char* const last = pointed_.data() + length;
-    return plain_.read(pointed_.data(), last) == last ? at + length : nullptr;
+    return plain_.read(pointed_.data(), pointed_.data(), last) == last ? at + length : nullptr;
   }
 
   void addRow(const std::vector<double>& row, long line) {
