@@ -31,7 +31,7 @@ class GridBlocks {
         function_(function),
         sums_(sums),
         width_(Pair(1.0) / scaled(basis.frame.scale, basis.frame.exponent)),
-        polynomials_(kMostDotted * axis.terms) {
+        polynomials_(kMostDotted * std::max<std::size_t>(axis.terms, 2)) {
     for (std::size_t n = 0; n < kMostDotted; ++n) steps_[n] = 2.0 * static_cast<double>(n);
   }
 
@@ -62,12 +62,13 @@ class GridBlocks {
     fillChebyshevs(sums_, axis_.terms, polynomials_);
   }
 
-  // The even polynomials first, then the odd ones.
+  // The even polynomials first, of which one is 1, then the odd ones.
   void addFunction(PartSums& part) {
     sums_.sumAndDifference(Pairs(front_), Pairs(back_), kMostDotted, even_, odd_);
     const ConstPairs all = Pairs(polynomials_);
     const std::size_t evenCount = (axis_.terms + 1) / 2;
-    sums_.dots(Pairs(even_), all, 2 * kMostDotted, evenCount, kMostDotted, part.y.from(0));
+    sums_.columnSums(Pairs(even_), kMostDotted, 1, kMostDotted, part.y.from(0));
+    sums_.dots(Pairs(even_), all + 2 * kMostDotted, 2 * kMostDotted, evenCount - 1, kMostDotted, part.y.from(1));
     sums_.dots(Pairs(odd_), all + kMostDotted, 2 * kMostDotted, axis_.terms / 2, kMostDotted, part.y.from(evenCount));
   }
 

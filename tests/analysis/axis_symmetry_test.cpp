@@ -55,8 +55,8 @@ AxisBasis basisOf(const std::vector<double>& values, Long degree) {
 
 TEST(MirroredBasis, HasTheSameNumbersAtOppositeValuesButForTheirSigns) {
   for (const int count : {40, 41}) {
-    std::vector<double> tenths;
-    for (int i = 0; i < count; ++i) tenths.push_back((6 + 2 * i - count) / 10.0);
+    std::vector<double> tenths(count);
+    for (int i = 0; i < count; ++i) tenths[i] = (6 + 2 * i - count) / 10.0;
     const AxisBasis basis = basisOf(tenths, 5);
     ASSERT_FALSE(basis.mirrored.empty());
     for (const std::size_t i : basis.mirrored)
