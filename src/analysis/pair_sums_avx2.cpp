@@ -12,6 +12,11 @@ namespace {
 constexpr std::size_t kLanes = 4;
 #include "analysis/vector_registers.inc"
 
+TAVIMOR_INLINE bool areSame(Exponents a, Exponents b) {
+  const __m256i difference = reinterpret_cast<__m256i>(a ^ b);
+  return _mm256_testz_si256(difference, difference) != 0;
+}
+
 TAVIMOR_INLINE Vector productError(Vector a, Vector b, Vector product) { return _mm256_fmsub_pd(a, b, product); }
 
 // Sums as a * 1 + b, the same bits: many processors add and multiply in units of their own, and these loops add most.

@@ -12,6 +12,10 @@ namespace {
 constexpr std::size_t kLanes = 8;
 #include "analysis/vector_registers.inc"
 
+TAVIMOR_INLINE bool areSame(Exponents a, Exponents b) {
+  return _mm512_cmpneq_epu64_mask(reinterpret_cast<__m512i>(a), reinterpret_cast<__m512i>(b)) == 0;
+}
+
 TAVIMOR_INLINE Vector productError(Vector a, Vector b, Vector product) { return _mm512_fmsub_pd(a, b, product); }
 
 // Sums as a * 1 + b, the same bits: many processors add and multiply in units of their own, and these loops add most.
