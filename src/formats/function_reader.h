@@ -6,7 +6,7 @@
 namespace tavimor {
 
 /// As many numbers of a table as may be held beside it while it is read or written.
-inline constexpr std::size_t kNumbersAtATime = 16384;
+inline constexpr std::size_t kNumbersAtATime = 20480;
 
 /// Whether a strip as wide as a line of the cache is no more than that: then it is turned to be read or written.
 bool goesByStrips(const Table4& F);

@@ -22,19 +22,25 @@ struct Room {
 void forEachPrinted(std::size_t pieces, const NumbersOfPiece& numbersOf,
                     const std::function<void(const PrintedPiece&)>& take) {
   constexpr std::size_t atATime = 2;
-  std::array<Room, atATime> rooms;
+  std::array<Room, atATime + 1> rooms;  // one for the piece that is taken meanwhile
   const auto printed = [&](std::size_t piece) {
-    Room& room = rooms[piece % atATime];
+    Room& room = rooms[piece % rooms.size()];
     numbersOf(piece, room.numbers);
     return PrintedPiece{printedLines(room.numbers, room.text), room.numbers.size()};
   };
   if (pieces == 1) return take(printed(0));
   std::deque<std::future<PrintedPiece>> inWork;
-  for (std::size_t piece = 0; piece < pieces || !inWork.empty();) {
-    for (; piece < pieces && inWork.size() < atATime; ++piece)
-      inWork.push_back(startBeside([&printed, piece] { return printed(piece); }));
-    take(inWork.front().get());
+  std::size_t begun = 0;
+  const auto begin = [&] {
+    for (; begun < pieces && inWork.size() < atATime; ++begun)
+      inWork.push_back(startBeside([&printed, piece = begun] { return printed(piece); }));
+  };
+  begin();
+  while (!inWork.empty()) {
+    const PrintedPiece piece = inWork.front().get();
     inWork.pop_front();
+    begin();
+    take(piece);
   }
 }
 

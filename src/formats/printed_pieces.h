@@ -17,7 +17,7 @@ struct PrintedPiece {
 
 /// Makes Print lines of pieces of numbers, two at a time in threads of their own, and hands them over in their order in
 /// the caller's thread, which has the system write one piece while the next ones are made. A single piece is made in
-/// the caller's thread. One of 16384 numbers takes several times as long as a thread's start.
+/// the caller's thread. One of 20480 numbers takes several times as long as a thread's start.
 void forEachPrinted(std::size_t pieces, const NumbersOfPiece& numbersOf,
                     const std::function<void(const PrintedPiece&)>& take);
 
