@@ -33,7 +33,7 @@ struct LongAxisSums {
 
   explicit LongAxisSums(const AxisBasis& emptyBasis);
 
-  /// Adds what every pass sums; y is left to the pass.
+  /// Adds what every pass sums; y comes in the order of the part.
   void add(const PartSums& part);
 };
 
@@ -59,6 +59,14 @@ inline void beginPolynomials(std::size_t count, PairList& polynomials) {
   std::fill_n(polynomials.high.begin(), count, 1.0);
   std::fill_n(polynomials.high.begin() + static_cast<std::ptrdiff_t>(count), kMostDotted - count, 0.0);
 }
+
+/// Where polynomial j of `terms` stands when the even ones come first.
+constexpr std::size_t placeEvenFirst(std::size_t j, std::size_t terms) {
+  return j / 2 + (j % 2 == 0 ? 0 : (terms + 1) / 2);
+}
+
+/// The smallest inner product of a polynomial with itself.
+double leastNorm(const PairMatrix& products);
 
 /// A long axis cut into parts of whole blocks: the same parts for any number of threads.
 struct AxisParts {

@@ -78,11 +78,9 @@ void finish(const std::vector<ChebyshevSums>& parts, LongAxisSums& result, const
       products(j, k) = scaled(sums[j + k] + sums[j < k ? k - j : j - k], -1);
   result.magnitudes = chebyshevMagnitudes(result.magnitudes.largestCoordinate, basis.terms);
   const double count = static_cast<double>(basis.count), largest = result.magnitudes.largest.back();
-  double least = count;
-  for (std::size_t j = 0; j < basis.terms; ++j) least = std::min(least, products(j, j).high);
   const double ofSums = (sumError(basis.count) + 4 * kPairError) * count * largest * largest;
   const double ofPolynomials = 3 * normOfBasisErrors(basis, result.magnitudes) * std::sqrt(count) * largest;
-  orthonormalise(basis, products, 3 * (ofSums + ofPolynomials) / least, result.magnitudes, options);
+  orthonormalise(basis, products, 3 * (ofSums + ofPolynomials) / leastNorm(products), result.magnitudes, options);
 }
 
 }  // namespace
@@ -98,10 +96,7 @@ std::optional<LongAxisSums> chebyshevAxisSums(const AxisData& axis, const Functi
   std::vector<ChebyshevSums> parts(cut.count(), ChebyshevSums(axis.terms));
   sumParts(cut, 45 * static_cast<double>(axis.terms), options, parts,
            [&] { return ChebyshevBlocks(axis, result.basis, function, pairSums(options.instructionSet)); });
-  for (const ChebyshevSums& part : parts) {
-    result.add(part);
-    for (std::size_t j = 0; j < axis.terms; ++j) result.y[j] = result.y[j] + part.y.total(j);
-  }
+  for (const ChebyshevSums& part : parts) result.add(part);
   finish(parts, result, options);
   if (!(result.basis.error < kMostChebyshevError)) return std::nullopt;
   return result;

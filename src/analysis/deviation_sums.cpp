@@ -4,7 +4,7 @@
 #include <cmath>
 #include <numeric>
 
-#include "analysis/chebyshev_basis.h"
+#include "analysis/axis_parts.h"
 
 namespace tavimor {
 
@@ -22,26 +22,13 @@ Matrix product(const Matrix& a, const Matrix& b, std::size_t columns) {
   return result;
 }
 
-Matrix highParts(const PairMatrix& matrix) {
-  Matrix result;
-  for (const Pair& element : matrix.elements) result.push_back(element.high);
-  return result;
-}
-
-// D: each derivative as a sum of the polynomials, from the derivative of their recurrence,
-//   P_{j+1}' = scale_j (t P_j' + P_j) - back_j P_{j-1}',   t P_k = P_{k+1} / scale_k + back_k / scale_k P_{k-1}.
-// Its rounding in pairs grows as that of the polynomials does and is next to nothing beside it: a deviation comes in.
-Matrix derivatives(const Recurrence& recurrence, std::size_t m) {
-  PairMatrix d(m, m);
-  for (std::size_t j = 0; j + 1 < m; ++j)
-    for (std::size_t k = 0; k <= j; ++k) {
-      Pair ofProduct = k == j ? Pair(1.0) : Pair();
-      if (k > 0) ofProduct = ofProduct + d(j, k - 1) / Pair(recurrence[k - 1].scale);
-      if (k + 1 < j) ofProduct = ofProduct + d(j, k + 1) * recurrence[k + 1].back / Pair(recurrence[k + 1].scale);
-      d(j + 1, k) = ofProduct * Pair(recurrence[j].scale);
-      if (j > 0) d(j + 1, k) = d(j + 1, k) - recurrence[j].back * d(j - 1, k);
-    }
-  return highParts(d);
+// D: T_j' = 2 j (T_{j-1} + T_{j-3} + ..), of which T_0 counts half.
+// Source: Mason, Handscomb, Chebyshev Polynomials, 2003, 2.4.
+Matrix derivatives(std::size_t m) {
+  Matrix d(m * m);
+  for (std::size_t j = 0; j < m; ++j)
+    for (std::size_t k = (j + 1) % 2; k < j; k += 2) d[j * m + k] = static_cast<double>(k == 0 ? j : 2 * j);
+  return d;
 }
 
 void addTo(std::vector<double>& sums, const std::vector<double>& others) {
@@ -86,8 +73,7 @@ void DeviationSums::add(const DeviationSums& part) {
 std::vector<double> DeviationSums::totals(const std::vector<double>& chains) const {
   std::vector<double> sums;
   for (std::size_t j = 0; j < terms_; ++j) {
-    const std::size_t place = j / 2 + (j % 2 == 0 ? 0 : (terms_ + 1) / 2);
-    const auto from = chains.begin() + static_cast<std::ptrdiff_t>(place * kChains);
+    const auto from = chains.begin() + static_cast<std::ptrdiff_t>(placeEvenFirst(j, terms_) * kChains);
     sums.push_back(std::accumulate(from, from + kChains, 0.0));
   }
   return sums;
@@ -102,7 +88,7 @@ DeviationGains::DeviationGains(const DeviationSums& sums)
   Matrix products(m * m);
   for (std::size_t j = 0; j < m; ++j)
     for (std::size_t k = 0; k < m; ++k) products[j * m + k] = (single[j + k] + single[j < k ? k - j : j - k]) / 2;
-  const Matrix d = derivatives(chebyshevRecurrence(m), m);
+  const Matrix d = derivatives(m);
   ofFunction_ = product(d, sums.totals(sums.withFunction_), 1);
   const Matrix oneSide = product(d, products, m);
   for (std::size_t j = 0; j < m; ++j)

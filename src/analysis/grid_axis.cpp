@@ -179,22 +179,15 @@ bool addGains(const DeviationSums& deviations, std::size_t addends, PairMatrix& 
   return true;
 }
 
-double leastNorm(const PairMatrix& products) {
-  double least = products(0, 0).high;
-  for (std::size_t j = 0; j < products.rows; ++j) least = std::min(least, products(j, j).high);
-  return least;
-}
-
 bool finish(const AxisData& axis, Polynomials kind, const std::vector<GridSums>& parts, std::size_t addends,
             const AnalysisOptions& options, LongAxisSums& result) {
-  const std::size_t evenCount = (axis.terms + 1) / 2;
   DeviationSums deviations(axis.terms);
   for (const GridSums& part : parts) {
     result.add(part);
     deviations.add(part.deviations);
-    for (std::size_t j = 0; j < axis.terms; ++j)
-      result.y[j] = result.y[j] + part.y.total(j / 2 + (j % 2 == 0 ? 0 : evenCount));
   }
+  const std::vector<Pair> evenFirst = result.y;
+  for (std::size_t j = 0; j < axis.terms; ++j) result.y[j] = evenFirst[placeEvenFirst(j, axis.terms)];
   if (kind == Polynomials::Chebyshev)
     result.magnitudes = chebyshevMagnitudes(result.magnitudes.largestCoordinate, axis.terms);
   GridProducts grid = productsOnGrid(axis, result.basis.frame, kind);

@@ -69,10 +69,7 @@ LongAxisSums listedAxisSums(const AxisData& axis, const FunctionValues& function
   const double terms = static_cast<double>(axis.terms);
   sumParts(cut, 10 * terms * (terms + 6), options, parts,
            [&] { return ListedBlocks(axis, result.basis, function, sums); });
-  for (const ListedSums& part : parts) {
-    result.add(part);
-    for (std::size_t j = 0; j < axis.terms; ++j) result.y[j] = result.y[j] + part.y.total(j);
-  }
+  for (const ListedSums& part : parts) result.add(part);
   orthonormalise(result.basis, productsOf(parts, axis.terms), sumError(axis.count), result.magnitudes, options);
   return result;
 }
