@@ -6,21 +6,11 @@ set -euo pipefail
 source "$(dirname "$0")/checks.sh"
 needed unzip
 packages=$(realpath "$1")
-work=$(mktemp -d)
-export TAVIMOR_WINEPREFIX=$work/wine
-wine() { "$source_folder/packaging/windows/wine.sh" "$@" 2>/dev/null; }
-# Wine writes its registry after its last program has ended.
-tidy() {
-  wine wineboot --kill || true
-  waitFor rm -rf "$work"
-}
-trap tidy EXIT
-wine wineboot --init
+source "$here/own_wine.sh"
 
 installer=$(echo "$packages"/tavimor-*-windows.exe)
 version=$(basename "$installer" -windows.exe)
 version=${version#tavimor-}
-drive=$work/wine/drive_c
 files() { (cd "$1" && find . -type f ! -name uninstall.exe | sort); }
 
 # value KEY [OPTION...]: of the registry, the default one of the key with /ve; nothing where there is none.

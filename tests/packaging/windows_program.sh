@@ -13,19 +13,8 @@ source "$source_folder/packaging/keys.sh"
 giveKeyboard() { [ -n "$1" ] && timeout 5 xdotool windowactivate --sync "$1"; }
 program=$(realpath "$1")
 pictures=${2:+$(realpath "$2")}
-work=$(mktemp -d)
-export TAVIMOR_WINEPREFIX=$work/wine
-drive=$TAVIMOR_WINEPREFIX/drive_c
-wine() { "$source_folder/packaging/windows/wine.sh" "$@" 2>/dev/null; }
-# Wine writes its registry after its last program has ended.
-tidy() {
-  wine wineboot --kill || true
-  kill %openbox
-  waitFor rm -rf "$work"
-}
-openbox >/dev/null 2>&1 &
-trap tidy EXIT
-wine wineboot --init
+source "$here/own_wine.sh"
+openbox >/dev/null 2>&1 & # ends with the display
 
 # separator: as the registry has it.
 formats='HKCU\Control Panel\International'
