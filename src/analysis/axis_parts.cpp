@@ -22,7 +22,7 @@ void readFunctionBlock(const FunctionValues& function, const PairSums& sums, con
   stretch.copy(function.values, block.high.data());
   std::fill(block.high.begin() + static_cast<std::ptrdiff_t>(stretch.count), block.high.end(), 0.0);
   part.exactFunction = finishBlock(function, sums, block, kMostDotted) && part.exactFunction;
-  sums.dots(Pairs(block), Pairs(block), 0, 1, kMostDotted, part.squares.from(0));
+  sums.squares(Pairs(block), kMostDotted, part.squares.from(0));
 }
 
 double leastNorm(const PairMatrix& products) {

@@ -26,9 +26,9 @@ class ChebyshevBlocks {
     readFunctionBlock(function_, sums_, {first, count}, block_, part);
     const std::size_t last = axis_.terms - 1;
     const ConstPairs all = Pairs(polynomials_), fromFirst = all + kMostDotted, ofLast = all + last * kMostDotted;
-    sums_.columnSums(Pairs(block_), kMostDotted, 1, kMostDotted, part.y.from(0));
+    sums_.addUp(Pairs(block_), kBlock, kChains, part.y.from(0));
     sums_.dots(Pairs(block_), fromFirst, kMostDotted, last, kMostDotted, part.y.from(1));
-    sums_.columnSums(fromFirst, kMostDotted, last, kMostDotted, part.single.from(1));
+    for (std::size_t j = 1; j <= last; ++j) sums_.addUp(all + j * kMostDotted, kBlock, kChains, part.single.from(j));
     sums_.dots(ofLast, fromFirst, kMostDotted, last, kMostDotted, part.products.from(1));
   }
 
@@ -41,7 +41,7 @@ class ChebyshevBlocks {
     std::fill(t.high + count, t.high + kMostDotted, 0.0);
     std::fill(t.low + count, t.low + kMostDotted, 0.0);
     part.largestCoordinate = std::max(part.largestCoordinate, sums_.magnitudes(t.high, count).largest);
-    fillChebyshevs(sums_, axis_.terms, all);
+    fillChebyshevs(sums_, axis_.terms, Places::Pairs, all);
   }
 
   const AxisData& axis_;

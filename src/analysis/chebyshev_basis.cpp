@@ -57,10 +57,16 @@ Recurrence chebyshevRecurrence(std::size_t terms) {
   return recurrence;
 }
 
-void fillChebyshevs(const PairSums& sums, std::size_t terms, Pairs polynomials) {
+void fillChebyshevs(const PairSums& sums, std::size_t terms, Places places, Pairs polynomials) {
   const auto polynomial = [&](std::size_t j) { return polynomials + j * kMostDotted; };
+  double high[kMostDotted], low[kMostDotted];
+  for (std::size_t n = 0; n < kMostDotted; ++n) {
+    high[n] = 2 * polynomial(1).high[n];
+    low[n] = 2 * polynomial(1).low[n];
+  }
+  const ConstPairs twice{high, places == Places::Pairs ? low : nullptr};
   for (std::size_t j = 1; j + 1 < terms; ++j)
-    sums.advanceChebyshev(polynomial(1), polynomial(j), polynomial(j - 1), kMostDotted, polynomial(j + 1));
+    sums.advanceChebyshev(twice, polynomial(j), polynomial(j - 1), kMostDotted, polynomial(j + 1));
 }
 
 BasisMagnitudes chebyshevMagnitudes(double largestCoordinate, std::size_t terms) {

@@ -10,8 +10,11 @@ namespace tavimor {
 /// Source: Mason, Handscomb, Chebyshev Polynomials, 2003, 2.4.
 Recurrence chebyshevRecurrence(std::size_t terms);  // two at least
 
+/// What the places t of a block are.
+enum class Places { Doubles, Pairs };
+
 /// T_2 and those behind, at kMostDotted places each, from T_0 and T_1.
-void fillChebyshevs(const PairSums& sums, std::size_t terms, Pairs polynomials);
+void fillChebyshevs(const PairSums& sums, std::size_t terms, Places places, Pairs polynomials);
 
 /// The largest magnitude of each is that at 1 or at a coordinate a little beyond it.
 BasisMagnitudes chebyshevMagnitudes(double largestCoordinate, std::size_t terms);

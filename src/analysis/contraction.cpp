@@ -69,6 +69,7 @@ void gather(const Lines& lines, const Tile& tile, const double* from, double* to
 struct Columns {
   PairMatrix matrix;
   std::size_t first = 0, step = 1;
+  bool beginsWithOnes = false;
 };
 
 // What a table is contracted with: the rows of a matrix at some points; or, folded, at points of which the first ones
@@ -81,21 +82,21 @@ struct Factor {
   std::size_t columnCount() const { return parts.front().matrix.columns + (folds() ? parts.back().matrix.columns : 0); }
 };
 
-Factor wholeOf(const PairMatrix& matrix) {
-  Factor factor{std::vector<std::size_t>(matrix.rows), {}, {{matrix}}};
+Factor wholeOf(const PairMatrix& matrix, bool beginsWithOnes) {
+  Factor factor{std::vector<std::size_t>(matrix.rows), {}, {{matrix, 0, 1, beginsWithOnes}}};
   std::iota(factor.points.begin(), factor.points.end(), std::size_t{0});
   return factor;
 }
 
 Columns everyOther(const PairMatrix& matrix, const std::vector<std::size_t>& rows, std::size_t first) {
-  Columns result{PairMatrix(rows.size(), (matrix.columns + 1 - first) / 2), first, 2};
+  Columns result{PairMatrix(rows.size(), (matrix.columns + 1 - first) / 2), first, 2, first == 0};
   for (std::size_t row = 0; row < rows.size(); ++row)
     for (std::size_t c = 0; c < result.matrix.columns; ++c) result.matrix(row, c) = matrix(rows[row], first + 2 * c);
   return result;
 }
 
 Factor factorOf(const AxisBasis& basis) {
-  if (basis.mirrored.empty()) return wholeOf(basis.values);
+  if (basis.mirrored.empty()) return wholeOf(basis.values, true);
   Factor factor{basis.mirrored, {}, {}};
   std::vector<bool> isTaken(basis.count);
   for (const std::size_t i : basis.mirrored) {
@@ -135,11 +136,8 @@ class LineGroups {
       tile.points = partOf(factor_.points, first);
       read_(group, tile, blocks_[0]);
       if (factor_.folds()) fold(group, tile, first);
-      for (std::size_t n = 0; n < factor_.parts.size(); ++n) {
-        const PairMatrix& matrix = factor_.parts[n].matrix;
-        sums_.contract(Pairs(blocks_[n]), tile.points.size(), tile.lanes,
-                       matrix.elements.data() + first * matrix.columns, matrix.columns, matrix.columns, columnSums_[n]);
-      }
+      for (std::size_t n = 0; n < factor_.parts.size(); ++n)
+        contract(tile, factor_.parts[n], first, Pairs(blocks_[n]), columnSums_[n]);
     }
     for (std::size_t n = 0; n < factor_.parts.size(); ++n) scatter(tile, factor_.parts[n], columnSums_[n]);
   }
@@ -158,6 +156,14 @@ class LineGroups {
     std::fill_n(Pairs(blocks_[1]).high + found, count - found, 0.0);
     std::fill_n(Pairs(blocks_[1]).low + found, count - found, 0.0);
     sums_.sumAndDifference(Pairs(blocks_[0]), Pairs(blocks_[1]), count, blocks_[0], blocks_[1]);
+  }
+
+  void contract(const Tile& tile, const Columns& part, std::size_t first, ConstPairs block, Pairs sums) {
+    const PairMatrix& matrix = part.matrix;
+    const std::size_t ones = part.beginsWithOnes ? 1 : 0;
+    if (part.beginsWithOnes) sums_.addUp(block, tile.points.size(), tile.lanes, sums);
+    sums_.contract(block, tile.points.size(), tile.lanes, matrix.elements.data() + first * matrix.columns + ones,
+                   matrix.columns, matrix.columns - ones, sums + ones * tile.lanes);
   }
 
   void scatter(const Tile& tile, const Columns& part, const PairList& sums) {
@@ -216,7 +222,7 @@ PairTable contractTable(const PairTable& table, int k, const Factor& factor, con
 }  // namespace
 
 PairTable contracted(const PairTable& table, int k, const PairMatrix& matrix, const AnalysisOptions& options) {
-  return contractTable(table, k, wholeOf(matrix), options);
+  return contractTable(table, k, wholeOf(matrix, false), options);
 }
 
 PairTable contracted(const PairTable& table, int k, const AxisBasis& basis, const AnalysisOptions& options) {
@@ -239,7 +245,7 @@ FunctionContraction contracted(const FunctionValues& function, const PerVariable
         const std::size_t count = tile.points.size() * tile.lanes;
         if (!finishBlock(function, sums, block, count)) exact[group] = 0;
         for (std::size_t n = 0; n < count; n += kMostDotted)
-          sums.dots(block + n, block + n, 0, 1, std::min(kMostDotted, count - n), squares.from(group));
+          sums.squares(block + n, std::min(kMostDotted, count - n), squares.from(group));
       },
       options);
   for (std::size_t group = 0; group < groups; ++group) result.sumOfSquares = result.sumOfSquares + squares.total(group);

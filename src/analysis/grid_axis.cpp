@@ -59,7 +59,7 @@ class GridBlocks {
       return;
     }
     std::copy(t_.high.begin(), t_.high.end(), polynomials_.high.begin() + kMostDotted);
-    fillChebyshevs(sums_, axis_.terms, polynomials_);
+    fillChebyshevs(sums_, axis_.terms, Places::Doubles, polynomials_);
   }
 
   // The even polynomials first, of which one is 1, then the odd ones.
@@ -67,7 +67,7 @@ class GridBlocks {
     sums_.sumAndDifference(Pairs(front_), Pairs(back_), kMostDotted, even_, odd_);
     const ConstPairs all = Pairs(polynomials_);
     const std::size_t evenCount = (axis_.terms + 1) / 2;
-    sums_.columnSums(Pairs(even_), kMostDotted, 1, kMostDotted, part.y.from(0));
+    sums_.addUp(Pairs(even_), kBlock, kChains, part.y.from(0));
     sums_.dots(Pairs(even_), all + 2 * kMostDotted, 2 * kMostDotted, evenCount - 1, kMostDotted, part.y.from(1));
     sums_.dots(Pairs(odd_), all + kMostDotted, 2 * kMostDotted, axis_.terms / 2, kMostDotted, part.y.from(evenCount));
   }

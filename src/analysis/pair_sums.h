@@ -86,8 +86,11 @@ struct PairSums {
   void (*dots)(ConstPairs a, ConstPairs columns, std::size_t stride, std::size_t columnCount, std::size_t count,
                Pairs sums);
 
-  /// The sums of some columns alone: sums[c][chain] += sum of columns[c * stride + n].
-  void (*columnSums)(ConstPairs columns, std::size_t stride, std::size_t columnCount, std::size_t count, Pairs sums);
+  /// The same with ones for columns: sums[l] += sum over the points of table[p][l].
+  void (*addUp)(ConstPairs table, std::size_t points, std::size_t lanes, Pairs sums);
+
+  /// The squares of some numbers, at most kMostDotted, in chains like those of `dots`.
+  void (*squares)(ConstPairs values, std::size_t count, Pairs sums);
 
   /// Like `dots`, in doubles: sums[c * kChains + chain] += sum of weights[n] * columns[c * stride + n].
   void (*doubleDots)(const double* weights, const double* columns, std::size_t stride, std::size_t columnCount,
@@ -108,8 +111,9 @@ struct PairSums {
   double (*advance)(const RecurrenceStep& step, ConstPairs t, ConstPairs current, ConstPairs previous,
                     std::size_t count, Pairs next);
 
-  /// The step of Chebyshev's polynomials: next = 2 t current - previous, with the error of `advance` at most.
-  void (*advanceChebyshev)(ConstPairs t, ConstPairs current, ConstPairs previous, std::size_t count, Pairs next);
+  /// The step of Chebyshev's polynomials: next = twice * current - previous, with the error of `advance` at most. The
+  /// low parts of `twice` may be left out where they are 0.
+  void (*advanceChebyshev)(ConstPairs twice, ConstPairs current, ConstPairs previous, std::size_t count, Pairs next);
 
   /// sum = a + b and difference = a - b, number by number; they may take the place of a and b. The low parts are added
   /// as doubles and left as they are, at most 2 u (|a| + |b|): chains of products take such numbers. The error is at

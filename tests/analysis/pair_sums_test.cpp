@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <bit>
 #include <cmath>
 #include <limits>
@@ -41,13 +42,17 @@ void expectSameBits(const std::vector<double>& a, const std::vector<double>& b) 
     EXPECT_EQ(std::bit_cast<std::uint64_t>(a[n]), std::bit_cast<std::uint64_t>(b[n])) << n;
 }
 
+void expectSameBits(const Pair& a, const Pair& b) {
+  expectSameBits(std::vector{a.high, a.low}, std::vector{b.high, b.low});
+}
+
 void expectSameBits(const PairList& a, const PairList& b) {
   expectSameBits(a.high, b.high);
   expectSameBits(a.low, b.low);
 }
 
 TEST(PairSums, ContractionsAreTheSameEverywhereAndRight) {
-  for (const std::size_t columns : {1, 2, 3, 4, 5, 7, 11}) {
+  for (const std::size_t columns : {1, 2, 3, 4, 5, 6, 7, 9, 11}) {
     constexpr std::size_t points = 29, lanes = 16;
     PairList table = randomPairs(points * lanes, 1), list = randomPairs(points * columns, 2);
     std::vector<Pair> matrix;
@@ -73,16 +78,31 @@ TEST(PairSums, ContractionsAreTheSameEverywhereAndRight) {
   }
 }
 
-TEST(PairSums, DotProductsAreTheSameEverywhere) {
-  PairList a = randomPairs(kMostDotted, 3), b = randomPairs(kMostDotted, 4);
+TEST(PairSums, DotProductsAreTheSameEverywhereAndForAnyNumberOfColumns) {
+  constexpr std::size_t most = 11;
+  PairList a = randomPairs(kMostDotted, 3), columns = randomPairs(most * kMostDotted, 4);
+  for (const std::size_t count : {kChains, 5 * kChains, kMostDotted}) {
+    ChainSums wanted(most);
+    for (std::size_t c = 0; c < most; ++c)
+      pairSums(InstructionSet::Plain).dots(Pairs(a), Pairs(columns) + c * kMostDotted, 0, 1, count, wanted.from(c));
+    for (const PairSums* sums : availableSets())
+      for (std::size_t columnCount = 1; columnCount <= most; ++columnCount) {
+        ChainSums got(columnCount);
+        sums->dots(Pairs(a), Pairs(columns), kMostDotted, columnCount, count, got.from(0));
+        for (std::size_t c = 0; c < columnCount; ++c) expectSameBits(got.total(c), wanted.total(c));
+      }
+  }
+}
+
+TEST(PairSums, SquaresAreProductsWithThemselves) {
+  PairList a = randomPairs(kMostDotted, 16);
   for (const std::size_t count : {kChains, 5 * kChains, kMostDotted}) {
     ChainSums wanted(1);
-    pairSums(InstructionSet::Plain).dots(Pairs(a), Pairs(b), 0, 1, count, wanted.from(0));
+    pairSums(InstructionSet::Plain).dots(Pairs(a), Pairs(a), 0, 1, count, wanted.from(0));
     for (const PairSums* sums : availableSets()) {
       ChainSums got(1);
-      sums->dots(Pairs(a), Pairs(b), 0, 1, count, got.from(0));
-      EXPECT_EQ(got.total(0).high, wanted.total(0).high);
-      EXPECT_EQ(got.total(0).low, wanted.total(0).low);
+      sums->squares(Pairs(a), count, got.from(0));
+      expectSameBits(got.total(0), wanted.total(0));
     }
   }
 }
@@ -107,43 +127,45 @@ TEST(PairSums, RecurrencesAndFoldsAreTheSameEverywhere) {
 
 TEST(PairSums, ChebyshevsPolynomialsAreTheSameEverywhereAndRight) {
   constexpr std::size_t count = 5 * kChains;
-  PairList t = randomPairs(count, 9), current = randomPairs(count, 10), previous = randomPairs(count, 11);
+  PairList twice = randomPairs(count, 9), current = randomPairs(count, 10), previous = randomPairs(count, 11);
   PairList wanted(count);
-  pairSums(InstructionSet::Plain).advanceChebyshev(Pairs(t), Pairs(current), Pairs(previous), count, wanted);
+  pairSums(InstructionSet::Plain).advanceChebyshev(Pairs(twice), Pairs(current), Pairs(previous), count, wanted);
   for (const PairSums* sums : availableSets()) {
     PairList got(count);
-    sums->advanceChebyshev(Pairs(t), Pairs(current), Pairs(previous), count, got);
+    sums->advanceChebyshev(Pairs(twice), Pairs(current), Pairs(previous), count, got);
     expectSameBits(got, wanted);
   }
   for (std::size_t n = 0; n < count; ++n) {
     const mpq_class product =
-        2 * test::exactly({t.high[n], t.low[n]}) * test::exactly({current.high[n], current.low[n]});
+        test::exactly({twice.high[n], twice.low[n]}) * test::exactly({current.high[n], current.low[n]});
     const mpq_class before = test::exactly({previous.high[n], previous.low[n]});
     const mpq_class size = abs(product) + abs(before);
     EXPECT_LE(test::distance({wanted.high[n], wanted.low[n]}, product - before), 5 * kPairError * size.get_d());
   }
 }
 
-TEST(PairSums, SumsOfColumnsAreTheSameEverywhereAndRight) {
-  for (const std::size_t columnCount : {1, 4, 6}) {
-    PairList columns = randomPairs(columnCount * kMostDotted, 12);
-    ChainSums wanted(columnCount);
-    pairSums(InstructionSet::Plain).columnSums(Pairs(columns), kMostDotted, columnCount, kMostDotted, wanted.from(0));
-    for (std::size_t c = 0; c < columnCount; ++c) {
-      for (const PairSums* sums : availableSets()) {
-        ChainSums got(columnCount);
-        sums->columnSums(Pairs(columns), kMostDotted, columnCount, kMostDotted, got.from(0));
-        EXPECT_EQ(got.total(c).high, wanted.total(c).high);
-        EXPECT_EQ(got.total(c).low, wanted.total(c).low);
-      }
-      mpq_class exact, size;
-      for (std::size_t n = c * kMostDotted; n < (c + 1) * kMostDotted; ++n) {
-        const mpq_class value = test::exactly({columns.high[n], columns.low[n]});
-        exact += value;
-        size += abs(value);
-      }
-      EXPECT_LE(test::distance(wanted.total(c), exact), 4096 * kUnitRoundoff * kUnitRoundoff * size.get_d());
-    }
+TEST(PairSums, ChebyshevsPolynomialsTakeNoLowPartsForZeros) {
+  constexpr std::size_t count = 5 * kChains;
+  PairList twice = randomPairs(count, 9), current = randomPairs(count, 10), previous = randomPairs(count, 11);
+  std::fill(twice.low.begin(), twice.low.end(), 0.0);
+  for (const PairSums* sums : availableSets()) {
+    PairList wanted(count), got(count);
+    sums->advanceChebyshev(Pairs(twice), Pairs(current), Pairs(previous), count, wanted);
+    sums->advanceChebyshev({twice.high.data(), nullptr}, Pairs(current), Pairs(previous), count, got);
+    expectSameBits(got, wanted);
+  }
+}
+
+TEST(PairSums, PointsAddUpToWhatTheirProductsWithOnesAre) {
+  constexpr std::size_t points = 29, lanes = 24;
+  PairList table = randomPairs(points * lanes, 12);
+  const std::vector<Pair> ones(points, 1.0);
+  PairList wanted(lanes);
+  pairSums(InstructionSet::Plain).contract(Pairs(table), points, lanes, ones.data(), 1, 1, wanted);
+  for (const PairSums* sums : availableSets()) {
+    PairList got(lanes);
+    sums->addUp(Pairs(table), points, lanes, got);
+    expectSameBits(got, wanted);
   }
 }
 
