@@ -114,7 +114,7 @@ bool coordinates(const AxisData& axis, const AxisFrame& frame, const PairSums& s
   const double* values = axis.values.data() + first;
   bool exact = false;
   if (axis.reading == Reading::AsTyped)
-    exact = sums.typedLows(values, count, t.low);
+    exact = sums.typedLows(values, count, t.low).exact;
   else
     std::fill_n(t.low, count, 0.0);
   std::copy_n(values, count, t.high);

@@ -13,7 +13,7 @@ void LongAxisSums::add(const PartSums& part) {
   magnitudes.largestCoordinate = std::max(magnitudes.largestCoordinate, part.largestCoordinate);
   for (std::size_t j = 0; j < y.size(); ++j) y[j] = y[j] + part.y.total(j);
   sumOfSquares = sumOfSquares + part.squares.total(0);
-  exactFunction = exactFunction && part.exactFunction;
+  function.add(part.function);
   basis.exactValues = basis.exactValues && part.exactValues;
 }
 
@@ -21,7 +21,7 @@ void readFunctionBlock(const FunctionValues& function, const PairSums& sums, con
                        PartSums& part) {
   stretch.copy(function.values, block.high.data());
   std::fill(block.high.begin() + static_cast<std::ptrdiff_t>(stretch.count), block.high.end(), 0.0);
-  part.exactFunction = finishBlock(function, sums, block, kMostDotted) && part.exactFunction;
+  part.function.add(finishBlock(function, sums, block, kMostDotted));
   sums.squares(Pairs(block), kMostDotted, part.squares.from(0));
 }
 

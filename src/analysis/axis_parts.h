@@ -20,7 +20,8 @@ struct PartSums {
   ChainSums y, squares;
   std::vector<double> largest;
   double largestCoordinate = 0.0;
-  bool exactFunction = true, exactValues = true;
+  bool exactValues = true;
+  SeenValues function;
 };
 
 /// What one pass over a long axis and its function gives.
@@ -29,7 +30,7 @@ struct LongAxisSums {
   AxisBasis basis;      // without the values
   std::vector<Pair> y;  // the inner products of the polynomials and the function
   Pair sumOfSquares;
-  bool exactFunction = true;
+  SeenValues function;
 
   explicit LongAxisSums(const AxisBasis& emptyBasis);
 

@@ -236,20 +236,22 @@ FunctionContraction contracted(const FunctionValues& function, const PerVariable
   // One of each for a group of lines, put together in the order of groups.
   const std::size_t groups = (lines.count + kLinesTogether - 1) / kLinesTogether;
   ChainSums squares(groups);
-  std::vector<char> exact(groups, 1);
+  std::vector<SeenValues> seen(groups);
   FunctionContraction result;
   result.table = contractLines(
       extent, k, factorOf(basis),
       [&](std::size_t group, const Tile& tile, Pairs block) {
         gather(lines, tile, function.values, block.high);
         const std::size_t count = tile.points.size() * tile.lanes;
-        if (!finishBlock(function, sums, block, count)) exact[group] = 0;
+        seen[group].add(finishBlock(function, sums, block, count));
         for (std::size_t n = 0; n < count; n += kMostDotted)
           sums.squares(block + n, std::min(kMostDotted, count - n), squares.from(group));
       },
       options);
-  for (std::size_t group = 0; group < groups; ++group) result.sumOfSquares = result.sumOfSquares + squares.total(group);
-  result.exactValues = std::all_of(exact.begin(), exact.end(), [](char one) { return one != 0; });
+  for (std::size_t group = 0; group < groups; ++group) {
+    result.sumOfSquares = result.sumOfSquares + squares.total(group);
+    result.function.add(seen[group]);
+  }
   return result;
 }
 

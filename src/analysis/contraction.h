@@ -21,7 +21,7 @@ PairTable contracted(const PairTable& table, int k, const AxisBasis& basis, cons
 struct FunctionContraction {
   PairTable table;
   Pair sumOfSquares;
-  bool exactValues = true;  // all are doubles exactly
+  SeenValues function;
 };
 FunctionContraction contracted(const FunctionValues& function, const PerVariable<std::size_t>& extent, int k,
                                const AxisBasis& basis, const AnalysisOptions& options);

@@ -37,6 +37,13 @@ Finding findingOfBases(const Decomposition& result, Long lastVariable) {
   return {};
 }
 
+Decomposition undecomposed(const ProblemData& data, const Finding& finding) {
+  Decomposition result;
+  result.points = data.points();
+  result.finding = finding;
+  return result;
+}
+
 // The declared axes in the order in which it takes the fewest operations to contract them, one at least.
 std::vector<int> bestOrder(const ProblemData& data) {
   std::vector<int> axes, best;
@@ -62,24 +69,24 @@ std::vector<int> bestOrder(const ProblemData& data) {
 
 bool isLong(const ProblemData& data) { return data.axis[0].count >= kLongAxis && data.points() == data.axis[0].count; }
 
-void decomposeLong(const ProblemData& data, const FunctionValues& function, const AnalysisOptions& options,
-                   Decomposition& result) {
+SeenValues decomposeLong(const ProblemData& data, const FunctionValues& function, const AnalysisOptions& options,
+                         Decomposition& result) {
   LongAxisSums sums = longAxisSums(data.axis[0], function, options);
   result.axis[0] = std::move(sums.basis);
   for (int k = 1; k < kMaxVariables; ++k) result.axis[k] = axisBasis(data.axis[k], options);
   result.finding = findingOfBases(result, data.lastVariable);
-  if (result.finding.verdict != Verdict::Exact) return;
+  if (result.finding.verdict != Verdict::Exact) return {};
   result.z = PairTable({sums.y.size(), 1, 1, 1});
   for (std::size_t j = 0; j < sums.y.size(); ++j) result.z.set(j, sums.y[j]);
   result.sumOfSquares = sums.sumOfSquares;
-  result.exactData = sums.exactFunction && result.axis[0].exactValues;
+  return sums.function;
 }
 
-void decomposeTable(const ProblemData& data, const FunctionValues& function, const AnalysisOptions& options,
-                    Decomposition& result) {
+SeenValues decomposeTable(const ProblemData& data, const FunctionValues& function, const AnalysisOptions& options,
+                          Decomposition& result) {
   for (int k = 0; k < kMaxVariables; ++k) result.axis[k] = axisBasis(data.axis[k], options);
   result.finding = findingOfBases(result, data.lastVariable);
-  if (result.finding.verdict != Verdict::Exact) return;
+  if (result.finding.verdict != Verdict::Exact) return {};
   PerVariable<std::size_t> extent{};
   for (int k = 0; k < kMaxVariables; ++k) extent[k] = data.axis[k].count;
   const std::vector<int> order = bestOrder(data);
@@ -88,8 +95,18 @@ void decomposeTable(const ProblemData& data, const FunctionValues& function, con
   for (std::size_t n = 1; n < order.size(); ++n)
     result.z = contracted(result.z, order[n], result.axis[order[n]], options);
   result.sumOfSquares = first.sumOfSquares;
-  result.exactData = first.exactValues;
+  return first.function;
+}
+
+// Nothing is seen of the function where the values of a variable do not serve.
+SeenValues decomposeData(const ProblemData& data, const FunctionValues& function, const AnalysisOptions& options,
+                         Decomposition& result) {
+  const auto decomposeIt = isLong(data) ? decomposeLong : decomposeTable;
+  const SeenValues seen = decomposeIt(data, function, options, result);
+  result.exponent = function.exponent;
+  result.exactData = seen.exact;
   for (Long k = 0; k <= data.lastVariable; ++k) result.exactData = result.exactData && result.axis[k].exactValues;
+  return seen;
 }
 
 }  // namespace
@@ -104,18 +121,15 @@ double Decomposition::normOfFunction() const { return std::sqrt(sumOfSquares.hig
 
 Decomposition decompose(const ProblemData& data, const AnalysisOptions& options) {
   const PairSums& sums = pairSums(options.instructionSet);
-  Decomposition result;
-  result.points = data.points();
-  result.finding = findingOfValues(data, sums);
+  Decomposition result = undecomposed(data, findingOfValues(data, sums));
   if (result.finding.verdict != Verdict::Exact) return result;
-  const FunctionValues function = functionValues(*data.function, data.reading, sums);
-  if (!function.allFinite) {
-    result.finding = {Verdict::NotFinite, Obstacle::FunctionNotFinite, 0, 0};
-    return result;
-  }
-  result.exponent = function.exponent;
-  isLong(data) ? decomposeLong(data, function, options, result) : decomposeTable(data, function, options, result);
+  const Table4& table = *data.function;
+  SeenValues seen = decomposeData(data, functionValues(table, data.reading), options, result);
+  if (result.finding.verdict != Verdict::Exact) seen.magnitudes = sums.magnitudes(table.data(), table.size());
+  if (!seen.magnitudes.allFinite) return undecomposed(data, {Verdict::NotFinite, Obstacle::FunctionNotFinite, 0, 0});
   if (result.finding.verdict != Verdict::Exact) return result;
+  const FunctionValues function = functionValues(table, data.reading, seen.magnitudes);
+  if (!function.asTheyAre) decomposeData(data, function, options, result);
   for (int k = 0; k < kMaxVariables; ++k)
     if (result.axis[k].terms > 1 || result.axis[k].count > 1)
       result.z = contracted(result.z, k, transposed(result.axis[k].inverse), options);

@@ -86,7 +86,7 @@ class GridBlocks {
     const std::size_t count = stretch.count;
     stretch.copy(axis_.values.data(), x_.high.data());
     if (axis_.reading == Reading::AsTyped)
-      part.exactValues = sums_.typedLows(x_.high.data(), count, x_.low.data()) && part.exactValues;
+      part.exactValues = sums_.typedLows(x_.high.data(), count, x_.low.data()).exact && part.exactValues;
     else
       part.exactValues = false;
     std::fill(x_.high.begin() + static_cast<std::ptrdiff_t>(count), x_.high.end(), frame.middle.high);

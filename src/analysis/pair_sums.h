@@ -27,6 +27,12 @@ struct Magnitudes {
   double smallest = 0.0;  // of those that are not 0; 0 where all are
 };
 
+/// What is seen of some numbers while their low parts are made.
+struct TypedValues {
+  bool exact;     // all are decimals that their doubles hold exactly
+  bool ordinary;  // all are finite and not 0, their magnitudes from 2^-64 to 2^64
+};
+
 /// High and low parts of consecutive numbers.
 struct ConstPairs {
   const double* high;
@@ -72,9 +78,8 @@ struct RecurrenceStep {
 struct PairSums {
   Magnitudes (*magnitudes)(const double* values, std::size_t anyCount);
 
-  /// The low parts of what the values stand for as typed; see typedValue. True where all are decimals that their
-  /// doubles hold exactly.
-  bool (*typedLows)(const double* values, std::size_t anyCount, double* low);
+  /// The low parts of what the values stand for as typed; see typedValue.
+  TypedValues (*typedLows)(const double* values, std::size_t anyCount, double* low);
 
   /// sums[c][l] += sum over the points of table[p][l] * matrix[p][c], for at most kBlock points. Both tables have
   /// `lanes` (a multiple of kChains) columns, the matrix has `matrixColumns`, of which the first `columns` count.

@@ -11,6 +11,11 @@ namespace tavimor {
 
 namespace {
 
+FunctionValues functionOf(const ProblemData& data, const PairSums& sums) {
+  const Table4& table = *data.function;
+  return functionValues(table, data.reading, sums.magnitudes(table.data(), table.size()));
+}
+
 // sums = the table's columns, one value of `matrix` column after the other; for any number of rows.
 void contractAll(const PairSums& sums, ConstPairs table, std::size_t rows, std::size_t lanes, const PairMatrix& matrix,
                  PairList& result) {
@@ -41,7 +46,7 @@ Pair leverageAt(const PairList& orthonormal, std::size_t terms, std::size_t i) {
 void visitLongAxis(const ProblemData& data, const Decomposition& decomposition, const AnalysisOptions& options,
                    const VisitResidual& visit) {
   const PairSums& sums = pairSums(options.instructionSet);
-  const FunctionValues function = functionValues(*data.function, data.reading, sums);
+  const FunctionValues function = functionOf(data, sums);
   const AxisBasis& basis = decomposition.axis[0];
   const PairMatrix toOrthonormal = transposed(basis.inverse);
   PairMatrix solution(basis.terms, 1);
@@ -104,7 +109,7 @@ class Line {
       : data_(data),
         expansion_(expansion),
         sums_(sums),
-        function_(functionValues(*data.function, data.reading, sums)),
+        function_(functionOf(data, sums)),
         stride_(expansion.table.stride(expansion.last)) {}
 
   void visitPoints(std::size_t line, const VisitResidual& visit) {

@@ -114,7 +114,7 @@ using Sums = std::optional<LongAxisSums>(const AxisData&, const FunctionValues&,
 bool serves(Sums& sums, std::vector<double> (*values)(std::size_t count)) {
   const Dimension model = test::problem({{"x", values(kLongAxis), 6, 0}});
   const ProblemData data = problemData(model);
-  const FunctionValues function = functionValues(*data.function, data.reading, pairSums(InstructionSet::Plain));
+  const FunctionValues function = functionValues(*data.function, data.reading);
   return sums(data.axis[0], function, {}).has_value();
 }
 

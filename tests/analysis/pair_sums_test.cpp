@@ -211,7 +211,7 @@ TEST(PairSums, TypedLowsAreThoseOfTypedValue) {
   const std::vector<double> values = numbersOfAllKinds();
   for (const PairSums* sums : availableSets()) {
     std::vector<double> low(values.size());
-    EXPECT_FALSE(sums->typedLows(values.data(), values.size(), low.data()));
+    EXPECT_FALSE(sums->typedLows(values.data(), values.size(), low.data()).exact);
     for (std::size_t n = 0; n < values.size(); ++n) ASSERT_EQ(low[n], typedLow(values[n])) << values[n];
   }
 }
@@ -219,12 +219,32 @@ TEST(PairSums, TypedLowsAreThoseOfTypedValue) {
 TEST(PairSums, DecimalsThatDoublesHoldAreNoticed) {
   std::vector<double> values = {1, 2.5, -0.375, 0, 1024, 3, 4, 5, 6};
   std::vector<double> low(values.size());
-  for (const PairSums* sums : availableSets()) EXPECT_TRUE(sums->typedLows(values.data(), values.size(), low.data()));
+  for (const PairSums* sums : availableSets())
+    EXPECT_TRUE(sums->typedLows(values.data(), values.size(), low.data()).exact);
   for (const std::size_t place : {0, 8}) {
     std::vector<double> one = values;
     one[place] = 0.1;
-    for (const PairSums* sums : availableSets()) EXPECT_FALSE(sums->typedLows(one.data(), one.size(), low.data()));
+    for (const PairSums* sums : availableSets())
+      EXPECT_FALSE(sums->typedLows(one.data(), one.size(), low.data()).exact);
   }
+}
+
+TEST(PairSums, ValuesThatAreNotOrdinaryAreNoticed) {
+  const double infinity = std::numeric_limits<double>::infinity();
+  const std::vector<double> ordinary = {1, -2.5, 0x1p-20, 0.1, -1e14, 3, 4, 5, 6, 0.7, 8};
+  const auto isOrdinary = [](const PairSums& sums, const std::vector<double>& values) {
+    std::vector<double> low(values.size());
+    return sums.typedLows(values.data(), values.size(), low.data()).ordinary;
+  };
+  for (const PairSums* sums : availableSets())
+    for (const double one : {0.0, -0.0, 5e-324, 0x1p-65, 0x1p64, -infinity, std::nan("")})
+      for (std::size_t place = 0; place < ordinary.size(); ++place) {
+        std::vector<double> values = ordinary;
+        values[place] = one;
+        EXPECT_FALSE(isOrdinary(*sums, values)) << one << " at " << place;
+      }
+  const std::vector<double> wholeRegisters(ordinary.begin(), ordinary.begin() + kChains);
+  for (const PairSums* sums : availableSets()) EXPECT_TRUE(isOrdinary(*sums, wholeRegisters));
 }
 
 TEST(PairSums, MagnitudesAreFound) {
