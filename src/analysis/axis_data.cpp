@@ -21,6 +21,7 @@ AxisData axisData(const Problem& problem, Long k, Reading reading, CentreFrom ce
   const std::vector<double>& values = valueList(problem, k);
   if (values.size() < axis.count) throw RunTimeError(ErrorNumber::SubscriptOutOfRange);
   axis.values = std::span(values).first(axis.count);
+  axis.range = pairSums(widestInstructionSet()).range(axis.values.data(), axis.count);
   return axis;
 }
 

@@ -3,6 +3,7 @@
 #include <span>
 #include <vector>
 
+#include "analysis/pair_sums.h"
 #include "analysis/typed_value.h"
 #include "model/spec_fields.h"
 
@@ -14,6 +15,7 @@ struct AxisData {
   std::size_t terms = 1;           // degree + 1
   std::span<const double> values;  // empty where the axis is equally spaced: then value i is
   Pair lower, upper;               // lower + i * (upper - lower) / (count - 1)
+  ValueRange range{};              // of the listed values
   Reading reading = Reading::AsTyped;
   Pair centre;
 

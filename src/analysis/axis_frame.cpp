@@ -33,12 +33,12 @@ AxisFrame frameOfSpaced(const AxisData& axis) {
 
 AxisFrame frameOfListed(const AxisData& axis) {
   AxisFrame frame;
-  const auto [least, most] = std::minmax_element(axis.values.begin(), axis.values.end());
-  const double halfWidth = *most / 2 - *least / 2;
-  frame.largestValue = std::max(std::fabs(*least), std::fabs(*most));
+  const auto [least, most] = axis.range;
+  const double halfWidth = most / 2 - least / 2;
+  frame.largestValue = std::max(std::fabs(least), std::fabs(most));
   // A double, so that differences with doubles are exact. Of decimals the one next to theirs: most symmetric lists have
   // symmetric coordinates then.
-  frame.middle = middleOf(valueRead(*least, axis.reading), valueRead(*most, axis.reading)).high;
+  frame.middle = middleOf(valueRead(least, axis.reading), valueRead(most, axis.reading)).high;
   frame.halfWidth = halfWidth;
   if (halfWidth == 0.0) return frame;
   frame.exponent = -exponentAbove(halfWidth);

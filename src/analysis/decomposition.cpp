@@ -13,15 +13,15 @@ namespace {
 
 constexpr double kMostError = 0.01;  // a basis with more is none
 
-bool allFinite(const AxisData& axis, const PairSums& sums) {
+bool allFinite(const AxisData& axis) {
   if (!isFinite(axis.lower) || !isFinite(axis.upper) || !isFinite(axis.centre)) return false;
-  return axis.equallySpaced() || sums.magnitudes(axis.values.data(), axis.values.size()).allFinite;
+  return axis.equallySpaced() || (std::isfinite(axis.range.least) && std::isfinite(axis.range.most));
 }
 
 // What the values alone tell, exactly.
-Finding findingOfValues(const ProblemData& data, const PairSums& sums) {
+Finding findingOfValues(const ProblemData& data) {
   for (Long k = 0; k <= data.lastVariable; ++k)
-    if (!allFinite(data.axis[k], sums)) return {Verdict::NotFinite, Obstacle::ValueNotFinite, k, 0};
+    if (!allFinite(data.axis[k])) return {Verdict::NotFinite, Obstacle::ValueNotFinite, k, 0};
   for (Long k = 0; k <= data.lastVariable; ++k) {
     const std::size_t found = differentValues(data.axis[k], data.axis[k].terms);
     if (found < data.axis[k].terms) return {Verdict::NotDetermined, Obstacle::FewDifferentValues, k, found};
@@ -98,7 +98,6 @@ SeenValues decomposeTable(const ProblemData& data, const FunctionValues& functio
   return first.function;
 }
 
-// Nothing is seen of the function where the values of a variable do not serve.
 SeenValues decomposeData(const ProblemData& data, const FunctionValues& function, const AnalysisOptions& options,
                          Decomposition& result) {
   const auto decomposeIt = isLong(data) ? decomposeLong : decomposeTable;
@@ -121,10 +120,11 @@ double Decomposition::normOfFunction() const { return std::sqrt(sumOfSquares.hig
 
 Decomposition decompose(const ProblemData& data, const AnalysisOptions& options) {
   const PairSums& sums = pairSums(options.instructionSet);
-  Decomposition result = undecomposed(data, findingOfValues(data, sums));
+  Decomposition result = undecomposed(data, findingOfValues(data));
   if (result.finding.verdict != Verdict::Exact) return result;
   const Table4& table = *data.function;
   SeenValues seen = decomposeData(data, functionValues(table, data.reading), options, result);
+  // The function may not have been read where the values do not serve.
   if (result.finding.verdict != Verdict::Exact) seen.magnitudes = sums.magnitudes(table.data(), table.size());
   if (!seen.magnitudes.allFinite) return undecomposed(data, {Verdict::NotFinite, Obstacle::FunctionNotFinite, 0, 0});
   if (result.finding.verdict != Verdict::Exact) return result;

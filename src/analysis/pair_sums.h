@@ -27,10 +27,15 @@ struct Magnitudes {
   double smallest = 0.0;  // of those that are not 0; 0 where all are
 };
 
+/// The ends of the range of some doubles; no numbers where one of them is infinite or none.
+struct ValueRange {
+  double least, most;
+};
+
 /// What is seen of some numbers while their low parts are made.
 struct TypedValues {
   bool exact;     // all are decimals that their doubles hold exactly
-  bool ordinary;  // all are finite and not 0, their magnitudes from 2^-64 to 2^64
+  bool ordinary;  // so that none is 0, infinite or no number, or beyond 2^-64 .. 2^64
 };
 
 /// High and low parts of consecutive numbers.
@@ -77,6 +82,7 @@ struct RecurrenceStep {
 /// The routines for one instruction set. Counts named so are multiples of kChains.
 struct PairSums {
   Magnitudes (*magnitudes)(const double* values, std::size_t anyCount);
+  ValueRange (*range)(const double* values, std::size_t count);  // one at least
 
   /// The low parts of what the values stand for as typed; see typedValue.
   TypedValues (*typedLows)(const double* values, std::size_t anyCount, double* low);

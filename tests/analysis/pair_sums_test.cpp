@@ -247,6 +247,26 @@ TEST(PairSums, ValuesThatAreNotOrdinaryAreNoticed) {
   for (const PairSums* sums : availableSets()) EXPECT_TRUE(isOrdinary(*sums, wholeRegisters));
 }
 
+TEST(PairSums, RangesAreFound) {
+  const std::vector<double> values = {2, -3, 1e-200, 2, 0, 0, 1e-9, 2.5, 1, -1, 0};
+  for (const PairSums* sums : availableSets()) {
+    for (std::size_t count = 1; count <= values.size(); ++count) {
+      const auto [least, most] =
+          std::minmax_element(values.begin(), values.begin() + static_cast<std::ptrdiff_t>(count));
+      const ValueRange found = sums->range(values.data(), count);
+      EXPECT_EQ(found.least, *least);
+      EXPECT_EQ(found.most, *most);
+    }
+    for (const double bad : {std::numeric_limits<double>::infinity(), std::nan("")})
+      for (std::size_t place = 0; place < values.size(); ++place) {
+        std::vector<double> spoilt = values;
+        spoilt[place] = bad;
+        const ValueRange found = sums->range(spoilt.data(), spoilt.size());
+        EXPECT_TRUE(std::isnan(found.least) && std::isnan(found.most)) << place;
+      }
+  }
+}
+
 TEST(PairSums, MagnitudesAreFound) {
   for (const PairSums* sums : availableSets()) {
     const std::vector<double> values = {0, -3, 1e-200, 2, 0, 0, 1e-9, 2.5, 1, -1, 0};
