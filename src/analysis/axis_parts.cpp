@@ -17,12 +17,21 @@ void LongAxisSums::add(const PartSums& part) {
   basis.exactValues = basis.exactValues && part.exactValues;
 }
 
-void readFunctionBlock(const FunctionValues& function, const PairSums& sums, const Stretch& stretch, PairList& block,
-                       PartSums& part) {
-  stretch.copy(function.values, block.high.data());
-  std::fill(block.high.begin() + static_cast<std::ptrdiff_t>(stretch.count), block.high.end(), 0.0);
-  part.function.add(finishBlock(function, sums, block, kMostDotted));
-  sums.squares(Pairs(block), kMostDotted, part.squares.from(0));
+const double* Stretch::of(const double* values, std::vector<double>& room, double filling) const {
+  const double* from = values + first;
+  if (direction == Forth && count == room.size()) return from;
+  direction == Forth ? std::copy_n(from, count, room.begin()) : std::reverse_copy(from, from + count, room.begin());
+  std::fill(room.begin() + static_cast<std::ptrdiff_t>(count), room.end(), filling);
+  return room.data();
+}
+
+ConstPairs readFunctionBlock(const FunctionValues& function, const PairSums& sums, const Stretch& stretch,
+                             PairList& room, PartSums& part) {
+  const double* values = stretch.of(function.values, room.high, 0.0);
+  const ReadValues block = readValues(function, sums, values, kMostDotted, room);
+  part.function.add(block.seen);
+  sums.squares(block.pairs, kMostDotted, part.squares.from(0));
+  return block.pairs;
 }
 
 double leastNorm(const PairMatrix& products) {

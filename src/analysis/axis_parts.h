@@ -45,15 +45,14 @@ struct Stretch {
   std::size_t first, count;
   Direction direction = Forth;
 
-  void copy(const double* values, double* to) const {
-    const double* from = values + first;
-    direction == Forth ? std::copy_n(from, count, to) : std::reverse_copy(from, from + count, to);
-  }
+  /// Those of all values that it means, as many as `room` has. Unless they stand in this order they are copied there,
+  /// with `filling` behind the end.
+  const double* of(const double* values, std::vector<double>& room, double filling) const;
 };
 
 /// A block of the function, with 0 behind its end; its squares are added to those of the part.
-void readFunctionBlock(const FunctionValues& function, const PairSums& sums, const Stretch& stretch, PairList& block,
-                       PartSums& part);
+ConstPairs readFunctionBlock(const FunctionValues& function, const PairSums& sums, const Stretch& stretch,
+                             PairList& room, PartSums& part);
 
 /// The first polynomial at a block of kMostDotted places: 1, and 0 behind the first `count`, where so are all others.
 inline void beginPolynomials(std::size_t count, PairList& polynomials) {

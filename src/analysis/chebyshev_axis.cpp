@@ -23,11 +23,11 @@ class ChebyshevBlocks {
 
   void operator()(std::size_t first, std::size_t count, ChebyshevSums& part) {
     fillBasis(first, count, part);
-    readFunctionBlock(function_, sums_, {first, count}, block_, part);
+    const ConstPairs function = readFunctionBlock(function_, sums_, {first, count}, room_, part);
     const std::size_t last = axis_.terms - 1;
     const ConstPairs all = Pairs(polynomials_), fromFirst = all + kMostDotted, ofLast = all + last * kMostDotted;
-    sums_.addUp(Pairs(block_), kBlock, kChains, part.y.from(0));
-    sums_.dots(Pairs(block_), fromFirst, kMostDotted, last, kMostDotted, part.y.from(1));
+    sums_.addUp(function, kBlock, kChains, part.y.from(0));
+    sums_.dots(function, fromFirst, kMostDotted, last, kMostDotted, part.y.from(1));
     for (std::size_t j = 1; j <= last; ++j) sums_.addUp(all + j * kMostDotted, kBlock, kChains, part.single.from(j));
     sums_.dots(ofLast, fromFirst, kMostDotted, last, kMostDotted, part.products.from(1));
   }
@@ -48,7 +48,7 @@ class ChebyshevBlocks {
   const AxisBasis& basis_;
   const FunctionValues& function_;
   const PairSums& sums_;
-  PairList polynomials_, block_{kMostDotted};
+  PairList polynomials_, room_{kMostDotted};
 };
 
 // The sums of T_0 .. T_{2q}.

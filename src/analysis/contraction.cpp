@@ -243,7 +243,7 @@ FunctionContraction contracted(const FunctionValues& function, const PerVariable
       [&](std::size_t group, const Tile& tile, Pairs block) {
         gather(lines, tile, function.values, block.high);
         const std::size_t count = tile.points.size() * tile.lanes;
-        seen[group].add(finishBlock(function, sums, block, count));
+        seen[group].add(readValues(function, sums, block.high, count, block).seen);
         for (std::size_t n = 0; n < count; n += kMostDotted)
           sums.squares(block + n, std::min(kMostDotted, count - n), squares.from(group));
       },

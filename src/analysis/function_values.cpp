@@ -12,13 +12,14 @@ constexpr double kNextToNothing = 0x1p-500;  // what is smaller could lose its e
 
 double smallerOf(double a, double b) { return a == 0.0 || (b != 0.0 && b < a) ? b : a; }
 
-SeenValues makeLows(const FunctionValues& function, const PairSums& sums, Pairs block, std::size_t count) {
+SeenValues makeLows(const FunctionValues& function, const PairSums& sums, const double* values, std::size_t count,
+                    double* low) {
   if (function.reading == Reading::AsStored) {
-    std::fill_n(block.low, count, 0.0);
-    return {false, sums.magnitudes(block.high, count)};
+    std::fill_n(low, count, 0.0);
+    return {false, sums.magnitudes(values, count)};
   }
-  const TypedValues typed = sums.typedLows(block.high, count, block.low);
-  return {typed.exact, typed.ordinary ? Magnitudes{true, 1.0, 1.0} : sums.magnitudes(block.high, count)};
+  const TypedValues typed = sums.typedLows(values, count, low);
+  return {typed.exact, typed.ordinary ? Magnitudes{true, 1.0, 1.0} : sums.magnitudes(values, count)};
 }
 
 }  // namespace
@@ -41,15 +42,16 @@ FunctionValues functionValues(const Table4& table, Reading reading, const Magnit
   return function;
 }
 
-SeenValues finishBlock(const FunctionValues& function, const PairSums& sums, Pairs block, std::size_t count) {
-  const SeenValues seen = makeLows(function, sums, block, count);
-  if (function.asTheyAre) return seen;
+ReadValues readValues(const FunctionValues& function, const PairSums& sums, const double* values, std::size_t count,
+                      Pairs room) {
+  const SeenValues seen = makeLows(function, sums, values, count, room.low);
+  if (function.asTheyAre) return {{values, room.low}, seen};
   for (std::size_t n = 0; n < count; ++n) {
-    block.high[n] = std::ldexp(block.high[n], -function.exponent);
-    block.low[n] = std::ldexp(block.low[n], -function.exponent);
-    if (std::fabs(block.high[n]) < kNextToNothing) block.high[n] = block.low[n] = 0.0;
+    room.high[n] = std::ldexp(values[n], -function.exponent);
+    room.low[n] = std::ldexp(room.low[n], -function.exponent);
+    if (std::fabs(room.high[n]) < kNextToNothing) room.high[n] = room.low[n] = 0.0;
   }
-  return seen;
+  return {room, seen};
 }
 
 }  // namespace tavimor

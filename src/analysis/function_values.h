@@ -27,7 +27,13 @@ struct SeenValues {
 FunctionValues functionValues(const Table4& table, Reading reading);
 FunctionValues functionValues(const Table4& table, Reading reading, const Magnitudes& magnitudes);
 
-/// Makes pairs of values that were copied to the high parts of a block.
-SeenValues finishBlock(const FunctionValues& function, const PairSums& sums, Pairs block, std::size_t count);
+/// Some of the values as pairs. They may stand in the high parts of `room` already; high parts that serve as they are
+/// stay where they are.
+struct ReadValues {
+  ConstPairs pairs;
+  SeenValues seen;
+};
+ReadValues readValues(const FunctionValues& function, const PairSums& sums, const double* values, std::size_t count,
+                      Pairs room);
 
 }  // namespace tavimor

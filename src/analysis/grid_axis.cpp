@@ -40,10 +40,14 @@ class GridBlocks {
     const std::size_t shared = axis_.count - first - count < first + count ? count - 1 : count;
     const Stretch front{first, count}, back{axis_.count - first - shared, shared, Stretch::Back};
     fillBasis(first, count, part);
-    readFunctionBlock(function_, sums_, front, front_, part);
-    readFunctionBlock(function_, sums_, back, back_, part);
-    addFunction(part);
-    if (!axis_.equallySpaced()) addDeviations(front, back, part);
+    const ConstPairs inFront = readFunctionBlock(function_, sums_, front, front_, part);
+    const ConstPairs behind = readFunctionBlock(function_, sums_, back, back_, part);
+    addFunction(inFront, behind, part);
+    if (axis_.equallySpaced()) return;
+    const OppositeDeviations deviations = {deviationsOf(front, width_, frontDeviation_, part),
+                                           deviationsOf(back, -width_, backDeviation_, part), inFront.high,
+                                           behind.high};
+    part.deviations.add(sums_, deviations, polynomials_.high.data());
   }
 
  private:
@@ -63,8 +67,8 @@ class GridBlocks {
   }
 
   // The even polynomials first, of which one is 1, then the odd ones.
-  void addFunction(PartSums& part) {
-    sums_.sumAndDifference(Pairs(front_), Pairs(back_), kMostDotted, even_, odd_);
+  void addFunction(ConstPairs front, ConstPairs back, PartSums& part) {
+    sums_.sumAndDifference(front, back, kMostDotted, even_, odd_);
     const ConstPairs all = Pairs(polynomials_);
     const std::size_t evenCount = (axis_.terms + 1) / 2;
     sums_.addUp(Pairs(even_), kBlock, kChains, part.y.from(0));
@@ -72,27 +76,25 @@ class GridBlocks {
     sums_.dots(Pairs(odd_), all + kMostDotted, 2 * kMostDotted, axis_.terms / 2, kMostDotted, part.y.from(evenCount));
   }
 
-  void addDeviations(const Stretch& front, const Stretch& back, GridSums& part) {
-    const double inFront = deviationsOf(front, width_, frontDeviation_, part);
-    const double inBack = deviationsOf(back, -width_, backDeviation_, part);
-    part.deviations.largest = std::max({part.deviations.largest, inFront, inBack});
-    part.deviations.add(sums_, {frontDeviation_.data(), backDeviation_.data(), front_.high.data(), back_.high.data()},
-                        polynomials_.high.data());
+  // Behind the end, as at the middle place, a value in the middle has no deviation.
+  const double* deviationsOf(const Stretch& stretch, const Pair& width, std::vector<double>& deviation,
+                             GridSums& part) {
+    const AxisFrame& frame = basis_.frame;
+    const double* x = stretch.of(axis_.values.data(), x_.high, frame.middle.high);
+    part.exactValues = makeLows(x, stretch.count) && part.exactValues;
+    std::fill(x_.low.begin() + static_cast<std::ptrdiff_t>(stretch.count), x_.low.end(), frame.middle.low);
+    const double unit = std::ldexp(frame.scale.high, frame.exponent);
+    const double largest =
+        sums_.deviations({x, x_.low.data()}, t_.high.data(), frame.middle, width, unit, kMostDotted, deviation.data());
+    part.deviations.largest = std::max(part.deviations.largest, largest);
+    return deviation.data();
   }
 
-  // Behind the end, as at the middle place, a value in the middle has no deviation.
-  double deviationsOf(const Stretch& stretch, const Pair& width, std::vector<double>& deviation, PartSums& part) {
-    const AxisFrame& frame = basis_.frame;
-    const std::size_t count = stretch.count;
-    stretch.copy(axis_.values.data(), x_.high.data());
-    if (axis_.reading == Reading::AsTyped)
-      part.exactValues = sums_.typedLows(x_.high.data(), count, x_.low.data()).exact && part.exactValues;
-    else
-      part.exactValues = false;
-    std::fill(x_.high.begin() + static_cast<std::ptrdiff_t>(count), x_.high.end(), frame.middle.high);
-    std::fill(x_.low.begin() + static_cast<std::ptrdiff_t>(count), x_.low.end(), frame.middle.low);
-    const double unit = std::ldexp(frame.scale.high, frame.exponent);
-    return sums_.deviations(Pairs(x_), t_.high.data(), frame.middle, width, unit, kMostDotted, deviation.data());
+  // True where all are doubles exactly, as far as that is known.
+  bool makeLows(const double* x, std::size_t count) {
+    if (axis_.reading == Reading::AsTyped) return sums_.typedLows(x, count, x_.low.data()).exact;
+    std::fill_n(x_.low.begin(), count, 0.0);
+    return false;
   }
 
   const AxisData& axis_;

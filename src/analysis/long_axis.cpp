@@ -26,9 +26,9 @@ class ListedBlocks {
 
   void operator()(std::size_t first, std::size_t count, ListedSums& part) {
     fillBasis(first, count, part);
-    readFunctionBlock(function_, sums_, {first, count}, block_, part);
+    const ConstPairs function = readFunctionBlock(function_, sums_, {first, count}, room_, part);
     const ConstPairs all = Pairs(polynomials_);
-    sums_.dots(Pairs(block_), all, kMostDotted, axis_.terms, kMostDotted, part.y.from(0));
+    sums_.dots(function, all, kMostDotted, axis_.terms, kMostDotted, part.y.from(0));
     for (std::size_t j = 0; j < axis_.terms; ++j)
       sums_.dots(all + j * kMostDotted, all, kMostDotted, j + 1, kMostDotted, part.products.from(j * (j + 1) / 2));
   }
@@ -45,7 +45,7 @@ class ListedBlocks {
   const AxisBasis& basis_;
   const FunctionValues& function_;
   const PairSums& sums_;
-  PairList t_{kMostDotted}, polynomials_, block_{kMostDotted};
+  PairList t_{kMostDotted}, polynomials_, room_{kMostDotted};
 };
 
 PairMatrix productsOf(const std::vector<ListedSums>& parts, std::size_t terms) {

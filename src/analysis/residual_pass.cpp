@@ -51,14 +51,13 @@ void visitLongAxis(const ProblemData& data, const Decomposition& decomposition, 
   const PairMatrix toOrthonormal = transposed(basis.inverse);
   PairMatrix solution(basis.terms, 1);
   for (std::size_t j = 0; j < basis.terms; ++j) solution(j, 0) = decomposition.z.at(j);
-  PairList orthonormal(kMostDotted * basis.terms), estimates(kMostDotted), values(kMostDotted);
+  PairList orthonormal(kMostDotted * basis.terms), estimates(kMostDotted), room(kMostDotted);
   forEachBlock(data.axis[0], basis, sums, [&](std::size_t first, std::size_t count, ConstPairs polynomials) {
     goOn(options);
     if (options.progress) options.progress(static_cast<double>(first) / static_cast<double>(data.axis[0].count));
     contractAll(sums, polynomials, basis.terms, kMostDotted, toOrthonormal, orthonormal);
     contractAll(sums, Pairs(orthonormal), basis.terms, kMostDotted, solution, estimates);
-    std::copy_n(function.values + first, count, values.high.begin());
-    finishBlock(function, sums, values, count);
+    const ConstPairs values = readValues(function, sums, function.values + first, count, room).pairs;
     for (std::size_t i = 0; i < count; ++i) {
       const Pair residual = Pair(values.high[i], values.low[i]) - Pair(estimates.high[i], estimates.low[i]);
       visit(residual, leverageAt(orthonormal, basis.terms, i), {static_cast<Long>(first + i), 0, 0, 0});
@@ -138,7 +137,7 @@ class Line {
   void read(std::size_t line) {
     const std::size_t first = line / stride_ * expansion_.count() * stride_ + line % stride_;
     for (std::size_t i = 0; i < expansion_.count(); ++i) values_.high[i] = function_.values[first + i * stride_];
-    finishBlock(function_, sums_, values_, expansion_.count());
+    readValues(function_, sums_, values_.high.data(), expansion_.count(), values_);
   }
 
   // The indices of the line, and the product of the leverages there.
