@@ -10,7 +10,7 @@ namespace tavimor {
 
 namespace {
 
-using Matrix = std::vector<double>;  // row by row, square
+using Matrix = std::vector<double>;  // row by row
 
 Matrix product(const Matrix& a, const Matrix& b, std::size_t columns) {
   const std::size_t inner = b.size() / columns, rows = a.size() / inner;
@@ -22,12 +22,12 @@ Matrix product(const Matrix& a, const Matrix& b, std::size_t columns) {
   return result;
 }
 
-// D: T_j' = 2 j (T_{j-1} + T_{j-3} + ..), of which T_0 counts half.
+// D without its last column, which is 0: T_j' = 2 j (T_{j-1} + T_{j-3} + ..), of which T_0 counts half.
 // Source: Mason, Handscomb, Chebyshev Polynomials, 2003, 2.4.
-Matrix derivatives(std::size_t m) {
-  Matrix d(m * m);
-  for (std::size_t j = 0; j < m; ++j)
-    for (std::size_t k = (j + 1) % 2; k < j; k += 2) d[j * m + k] = static_cast<double>(k == 0 ? j : 2 * j);
+Matrix derivatives(std::size_t last) {
+  Matrix d((last + 1) * last);
+  for (std::size_t j = 0; j <= last; ++j)
+    for (std::size_t k = (j + 1) % 2; k < j; k += 2) d[j * last + k] = static_cast<double>(k == 0 ? j : 2 * j);
   return d;
 }
 
@@ -38,13 +38,13 @@ void addTo(std::vector<double>& sums, const std::vector<double>& others) {
 }  // namespace
 
 DeviationSums::DeviationSums(std::size_t terms)
-    : terms_(terms), single_(terms * kChains), withLast_(single_), withFunction_(single_) {}
+    : last_(terms - 1), single_(last_ * kChains), withLast_(single_), withFunction_(single_) {}
 
 void DeviationSums::addWeighted(const PairSums& sums, const double* polynomials, const double* forEven,
                                 const double* forOdd, std::vector<double>& result) const {
-  const std::size_t evenCount = (terms_ + 1) / 2;
+  const std::size_t evenCount = (last_ + 1) / 2;
   sums.doubleDots(forEven, polynomials, 2 * kMostDotted, evenCount, kMostDotted, result.data());
-  sums.doubleDots(forOdd, polynomials + kMostDotted, 2 * kMostDotted, terms_ / 2, kMostDotted,
+  sums.doubleDots(forOdd, polynomials + kMostDotted, 2 * kMostDotted, last_ / 2, kMostDotted,
                   result.data() + evenCount * kChains);
 }
 
@@ -55,11 +55,11 @@ void DeviationSums::add(const PairSums& sums, const OppositeDeviations& block, c
   };
   fold(block.functionInFront, block.functionBehind);
   addWeighted(sums, polynomials, sum, difference, withFunction_);
-  const double *ones = polynomials, *last = polynomials + (terms_ - 1) * kMostDotted;
+  const double *ones = polynomials, *last = polynomials + last_ * kMostDotted;
   fold(ones, ones);
   addWeighted(sums, polynomials, sum, difference, single_);
   fold(last, last);
-  const bool lastIsEven = terms_ % 2 == 1;
+  const bool lastIsEven = last_ % 2 == 0;
   addWeighted(sums, polynomials, lastIsEven ? sum : difference, lastIsEven ? difference : sum, withLast_);
 }
 
@@ -72,23 +72,24 @@ void DeviationSums::add(const DeviationSums& part) {
 
 std::vector<double> DeviationSums::totals(const std::vector<double>& chains) const {
   std::vector<double> sums;
-  for (std::size_t j = 0; j < terms_; ++j) {
-    const auto from = chains.begin() + static_cast<std::ptrdiff_t>(placeEvenFirst(j, terms_) * kChains);
+  for (std::size_t j = 0; j < last_; ++j) {
+    const auto from = chains.begin() + static_cast<std::ptrdiff_t>(placeEvenFirst(j, last_) * kChains);
     sums.push_back(std::accumulate(from, from + kChains, 0.0));
   }
   return sums;
 }
 
 DeviationGains::DeviationGains(const DeviationSums& sums)
-    : terms_(sums.terms_), largestDeviation_(sums.largest), ofProducts_(terms_ * terms_) {
-  const std::size_t m = terms_, last = m - 1;
-  std::vector<double> single = sums.totals(sums.single_);  // the sums of T_0 .. T_{2 last}
+    : terms_(sums.last_ + 1), largestDeviation_(sums.largest), ofProducts_(terms_ * terms_) {
+  const std::size_t m = terms_, last = sums.last_;
+  std::vector<double> single = sums.totals(sums.single_);  // the sums of T_0 .. T_{2 last - 1}
   const std::vector<double> withLast = sums.totals(sums.withLast_);
-  for (std::size_t j = 1; j < m; ++j) single.push_back(2 * withLast[j] - single[last - j]);
-  Matrix products(m * m);
-  for (std::size_t j = 0; j < m; ++j)
+  single.push_back(withLast[0]);
+  for (std::size_t j = 1; j < last; ++j) single.push_back(2 * withLast[j] - single[last - j]);
+  Matrix products(last * m);
+  for (std::size_t j = 0; j < last; ++j)
     for (std::size_t k = 0; k < m; ++k) products[j * m + k] = (single[j + k] + single[j < k ? k - j : j - k]) / 2;
-  const Matrix d = derivatives(m);
+  const Matrix d = derivatives(last);
   ofFunction_ = product(d, sums.totals(sums.withFunction_), 1);
   const Matrix oneSide = product(d, products, m);
   for (std::size_t j = 0; j < m; ++j)

@@ -25,8 +25,8 @@ struct OppositeDeviations {
 
 /// These sums for one part of an axis, in Chebyshev's polynomials. A polynomial is the same at opposite places or, for
 /// odd numbers, the negative: sums with an even one take the sum of both weights, those with an odd one the difference.
-/// Of the products the sums of T_0 .. T_q alone and of T_q with the others are made, q = terms - 1: they give the sums
-/// up to T_{2q}, and these all others.
+/// No derivative has a share of T_q, q = terms - 1. Of the products the sums of T_0 .. T_{q-1} alone and of T_q with
+/// each of these are made: they give the sums up to T_{2q-1}, and these all others.
 class DeviationSums {
  public:
   explicit DeviationSums(std::size_t terms);
@@ -45,7 +45,7 @@ class DeviationSums {
                    std::vector<double>& result) const;
   std::vector<double> totals(const std::vector<double>& chains) const;
 
-  std::size_t terms_;
+  std::size_t last_;  // q
   std::vector<double> single_, withLast_, withFunction_;
 };
 
