@@ -112,16 +112,19 @@ bool coordinates(const AxisData& axis, const AxisFrame& frame, const PairSums& s
     return isExactlySpaced(axis);
   }
   const double* values = axis.values.data() + first;
+  const std::size_t padded = paddedToChains(count);
   bool exact = false;
   if (axis.reading == Reading::AsTyped)
     exact = sums.typedLows(values, count, t.low).exact;
   else
     std::fill_n(t.low, count, 0.0);
-  std::copy_n(values, count, t.high);
-  const std::size_t padded = paddedToChains(count);
-  std::fill(t.high + count, t.high + padded, frame.middle.high);
-  std::fill(t.low + count, t.low + padded, frame.middle.low);
-  sums.coordinates(t, frame.middle, frame.scale, std::ldexp(1.0, frame.exponent), padded, t);
+  if (padded > count) {
+    std::copy_n(values, count, t.high);
+    values = t.high;
+    std::fill(t.high + count, t.high + padded, frame.middle.high);
+    std::fill(t.low + count, t.low + padded, frame.middle.low);
+  }
+  sums.coordinates({values, t.low}, frame.middle, frame.scale, std::ldexp(1.0, frame.exponent), padded, t);
   return exact;
 }
 

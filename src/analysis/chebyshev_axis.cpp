@@ -40,7 +40,6 @@ class ChebyshevBlocks {
     part.exactValues = coordinates(axis_, basis_.frame, sums_, first, count, t) && part.exactValues;
     std::fill(t.high + count, t.high + kMostDotted, 0.0);
     std::fill(t.low + count, t.low + kMostDotted, 0.0);
-    part.largestCoordinate = std::max(part.largestCoordinate, sums_.magnitudes(t.high, count).largest);
     fillChebyshevs(sums_, axis_.terms, Places::Pairs, all);
   }
 
@@ -50,6 +49,11 @@ class ChebyshevBlocks {
   const PairSums& sums_;
   PairList polynomials_, room_{kMostDotted};
 };
+
+double largestCoordinate(const AxisData& axis, const AxisFrame& frame) {
+  const Pair least = valueRead(axis.range.least, axis.reading), most = valueRead(axis.range.most, axis.reading);
+  return std::max(std::fabs(coordinateOf(frame, least).high), std::fabs(coordinateOf(frame, most).high));
+}
 
 // The sums of T_0 .. T_{2q}.
 std::vector<Pair> sumsOfPolynomials(const std::vector<ChebyshevSums>& parts, const AxisBasis& basis) {
@@ -76,7 +80,6 @@ void finish(const std::vector<ChebyshevSums>& parts, LongAxisSums& result, const
   for (std::size_t j = 0; j < basis.terms; ++j)
     for (std::size_t k = 0; k < basis.terms; ++k)
       products(j, k) = scaled(sums[j + k] + sums[j < k ? k - j : j - k], -1);
-  result.magnitudes = chebyshevMagnitudes(result.magnitudes.largestCoordinate, basis.terms);
   const double count = static_cast<double>(basis.count), largest = result.magnitudes.largest.back();
   const double ofSums = (sumError(basis.count) + 4 * kPairError) * count * largest * largest;
   const double ofPolynomials = 3 * normOfBasisErrors(basis, result.magnitudes) * std::sqrt(count) * largest;
@@ -97,6 +100,7 @@ std::optional<LongAxisSums> chebyshevAxisSums(const AxisData& axis, const Functi
   sumParts(cut, 45 * static_cast<double>(axis.terms), options, parts,
            [&] { return ChebyshevBlocks(axis, result.basis, function, pairSums(options.instructionSet)); });
   for (const ChebyshevSums& part : parts) result.add(part);
+  result.magnitudes = chebyshevMagnitudes(largestCoordinate(axis, result.basis.frame), axis.terms);
   finish(parts, result, options);
   if (!(result.basis.error < kMostChebyshevError)) return std::nullopt;
   return result;
