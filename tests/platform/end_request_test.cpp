@@ -5,6 +5,8 @@
 
 #include <csignal>
 
+#include "support/child_process.h"
+
 namespace tavimor {
 namespace {
 
@@ -13,12 +15,10 @@ bool hasRequest(int descriptor) {
   return poll(&waiting, 1, 0) == 1;
 }
 
-// The process as it was, whatever a test has it catch.
 class EndRequest : public testing::TestWithParam<int> {
  protected:
-  ~EndRequest() override {
-    for (const int signal : {SIGTERM, SIGINT, SIGHUP}) std::signal(signal, SIG_DFL);
-  }
+  EndRequest() { test::heedEndRequests(); }
+  ~EndRequest() override { test::heedEndRequests(); }  // whatever a test has it catch
 };
 
 TEST_P(EndRequest, BecomesReadableInsteadOfKilling) {

@@ -5,6 +5,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <csignal>
 #include <cstdlib>
 #include <exception>
 #include <functional>
@@ -36,9 +37,17 @@ inline int exitCodeOfChild(const std::function<void()>& action) {
   return WEXITSTATUS(status);
 }
 
+/// Requests to end are what they are by default, also where the shell that started the tests ignores them.
+inline void heedEndRequests() {
+  for (const int signal : {SIGTERM, SIGINT, SIGHUP}) std::signal(signal, SIG_DFL);
+}
+
 /// The signal that ends the child, 0 where none does.
 inline int signalThatEnds(const std::function<void()>& action) {
-  const int status = statusOfChild(action);
+  const int status = statusOfChild([&] {
+    heedEndRequests();
+    action();
+  });
   return WIFSIGNALED(status) ? WTERMSIG(status) : 0;
 }
 

@@ -13,6 +13,7 @@
 
 #include "platform/decimal_separator.h"
 #include "platform/end_request.h"
+#include "support/child_process.h"
 #include "support/user_locale.h"
 #include "ui/main_window/frmAbout.h"
 #include "ui/main_window/frmTavimor.h"
@@ -69,10 +70,13 @@ TEST_F(Start, WithACommaYesChangesItToAPointAndTheEndBringsItBack) {
 // A request to end that comes in the middle of the splash.
 class AskedToEnd : public Start, public testing::WithParamInterface<int> {
  protected:
-  AskedToEnd() { watchEndRequests(); }
+  AskedToEnd() {
+    test::heedEndRequests();
+    watchEndRequests();
+  }
   ~AskedToEnd() override {
     watchEndRequests();  // forgets the request
-    std::signal(GetParam(), SIG_DFL);
+    test::heedEndRequests();
   }
 
   void askSoon() {
