@@ -10,6 +10,7 @@ namespace {
 constexpr int kMostExponent = 300;
 constexpr double kNextToNothing = 0x1p-500;  // what is smaller could lose its error terms below the smallest double
 
+// 0 stands for no magnitude.
 double smallerOf(double a, double b) { return a == 0.0 || (b != 0.0 && b < a) ? b : a; }
 
 SeenValues makeLows(const FunctionValues& function, const PairSums& sums, const double* values, std::size_t count,
