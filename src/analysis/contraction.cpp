@@ -20,6 +20,9 @@ struct Lines {
   std::size_t place(std::size_t line, std::size_t i, std::size_t extent) const {
     return (line / inner * extent + i) * inner + line % inner;
   }
+
+  // How many lines from this one on lie side by side.
+  std::size_t runFrom(std::size_t line) const { return inner - line % inner; }
 };
 
 Lines linesAlong(const PerVariable<std::size_t>& extent, int k) {
@@ -41,7 +44,7 @@ struct Tile {
 template <class Visit>
 void forEachRun(const Lines& lines, const Tile& tile, Visit visit) {
   for (std::size_t line = 0; line < tile.lineCount;) {
-    const std::size_t run = std::min(tile.lineCount - line, lines.inner - (tile.firstLine + line) % lines.inner);
+    const std::size_t run = std::min(tile.lineCount - line, lines.runFrom(tile.firstLine + line));
     visit(line, run);
     line += run;
   }
@@ -63,6 +66,17 @@ void gather(const Lines& lines, const Tile& tile, const double* from, double* to
     for (std::size_t p = 0; p < pointCount; ++p)
       copyRun(source + tile.points[p] * lines.inner, run, to + p * tile.lanes + line);
   });
+}
+
+// A tile of the function in the block, and what is seen of it.
+SeenValues readFunction(const FunctionValues& function, const PairSums& sums, const Lines& lines, const Tile& tile,
+                        Pairs block) {
+  const bool areRows = tile.lineCount == tile.lanes && lines.runFrom(tile.firstLine) >= tile.lanes;
+  if (areRows && function.areTyped())
+    return readTypedRows(sums, function.values + lines.place(tile.firstLine, 0, lines.length), tile.points, lines.inner,
+                         tile.lanes, block);
+  gather(lines, tile, function.values, block.high);
+  return readValues(function, sums, block.high, tile.points.size() * tile.lanes, block).seen;
 }
 
 // Columns of a matrix: every `step`-th from the first one on.
@@ -241,9 +255,8 @@ FunctionContraction contracted(const FunctionValues& function, const PerVariable
   result.table = contractLines(
       extent, k, factorOf(basis),
       [&](std::size_t group, const Tile& tile, Pairs block) {
-        gather(lines, tile, function.values, block.high);
+        seen[group].add(readFunction(function, sums, lines, tile, block));
         const std::size_t count = tile.points.size() * tile.lanes;
-        seen[group].add(readValues(function, sums, block.high, count, block).seen);
         for (std::size_t n = 0; n < count; n += kMostDotted)
           sums.squares(block + n, std::min(kMostDotted, count - n), squares.from(group));
       },

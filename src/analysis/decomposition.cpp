@@ -44,7 +44,8 @@ Decomposition undecomposed(const ProblemData& data, const Finding& finding) {
   return result;
 }
 
-// The declared axes in the order in which it takes the fewest operations to contract them, one at least.
+// The declared axes in the order in which it takes the fewest operations to contract them, one at least. Of equals the
+// one whose first axis is the last: more lines lie side by side.
 std::vector<int> bestOrder(const ProblemData& data) {
   std::vector<int> axes, best;
   for (int k = 0; k < kMaxVariables; ++k)
@@ -59,7 +60,7 @@ std::vector<int> bestOrder(const ProblemData& data) {
       cost += size * (static_cast<double>(axis.terms) + (k == 0 ? turning : 0.0));
       size *= static_cast<double>(axis.terms) / static_cast<double>(axis.count);
     }
-    if (cost < least) {
+    if (cost <= least) {
       least = cost;
       best = axes;
     }

@@ -13,14 +13,17 @@ constexpr double kNextToNothing = 0x1p-500;  // what is smaller could lose its e
 // 0 stands for no magnitude.
 double smallerOf(double a, double b) { return a == 0.0 || (b != 0.0 && b < a) ? b : a; }
 
+SeenValues seenOf(const TypedValues& typed, const PairSums& sums, const double* values, std::size_t count) {
+  return {typed.exact, typed.ordinary ? Magnitudes{true, 1.0, 1.0} : sums.magnitudes(values, count)};
+}
+
 SeenValues makeLows(const FunctionValues& function, const PairSums& sums, const double* values, std::size_t count,
                     double* low) {
   if (function.reading == Reading::AsStored) {
     std::fill_n(low, count, 0.0);
     return {false, sums.magnitudes(values, count)};
   }
-  const TypedValues typed = sums.typedLows(values, count, low);
-  return {typed.exact, typed.ordinary ? Magnitudes{true, 1.0, 1.0} : sums.magnitudes(values, count)};
+  return seenOf(sums.typedLows(values, count, low), sums, values, count);
 }
 
 }  // namespace
@@ -53,6 +56,12 @@ ReadValues readValues(const FunctionValues& function, const PairSums& sums, cons
     if (std::fabs(room.high[n]) < kNextToNothing) room.high[n] = room.low[n] = 0.0;
   }
   return {room, seen};
+}
+
+SeenValues readTypedRows(const PairSums& sums, const double* from, std::span<const std::size_t> rows,
+                         std::size_t stride, std::size_t lanes, Pairs room) {
+  const TypedValues typed = sums.typedRows(from, rows.data(), rows.size(), stride, lanes, room);
+  return seenOf(typed, sums, room.high, rows.size() * lanes);
 }
 
 }  // namespace tavimor

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <span>
+
 #include "analysis/pair_sums.h"
 #include "analysis/typed_value.h"
 #include "model/table4.h"
@@ -13,6 +15,8 @@ struct FunctionValues {
   Reading reading = Reading::AsTyped;
   int exponent = 0;
   bool asTheyAre = true;  // neither scaled nor without some
+
+  bool areTyped() const { return asTheyAre && reading == Reading::AsTyped; }
 };
 
 /// What is seen of values while they are read. Numbers that need no care may be seen as if each were 1.
@@ -35,5 +39,9 @@ struct ReadValues {
 };
 ReadValues readValues(const FunctionValues& function, const PairSums& sums, const double* values, std::size_t count,
                       Pairs room);
+
+/// The same for rows of a table that is read as typed and as it is: see PairSums::typedRows.
+SeenValues readTypedRows(const PairSums& sums, const double* from, std::span<const std::size_t> rows,
+                         std::size_t stride, std::size_t lanes, Pairs room);
 
 }  // namespace tavimor

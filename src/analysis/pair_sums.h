@@ -87,6 +87,11 @@ struct PairSums {
   /// The low parts of what the values stand for as typed; see typedValue.
   TypedValues (*typedLows)(const double* values, std::size_t anyCount, double* low);
 
+  /// The same for rows of a table, which are copied side by side: number l of row r, from[rows[r] * stride + l], comes
+  /// to place r * lanes + l.
+  TypedValues (*typedRows)(const double* from, const std::size_t* rows, std::size_t rowCount, std::size_t stride,
+                           std::size_t lanes, Pairs pairs);
+
   /// sums[c][l] += sum over the points of table[p][l] * matrix[p][c], for at most kBlock points. Both tables have
   /// `lanes` (a multiple of kChains) columns, the matrix has `matrixColumns`, of which the first `columns` count.
   void (*contract)(ConstPairs table, std::size_t points, std::size_t lanes, const Pair* matrix,

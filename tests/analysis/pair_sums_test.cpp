@@ -216,6 +216,23 @@ TEST(PairSums, TypedLowsAreThoseOfTypedValue) {
   }
 }
 
+TEST(PairSums, RowsAreReadAsIfTheyStoodSideBySide) {
+  constexpr std::size_t stride = 27, lanes = 2 * kChains;
+  std::vector<double> values = numbersOfAllKinds();
+  for (double& value : values) value = std::round(value * 1e4) / 1e4;
+  const std::vector<std::size_t> rows = {7, 8, 0, 20, 3};
+  for (const PairSums* sums : availableSets()) {
+    PairList wanted(rows.size() * lanes), got(rows.size() * lanes);
+    for (std::size_t r = 0; r < rows.size(); ++r)
+      std::copy_n(&values[rows[r] * stride], lanes, &wanted.high[r * lanes]);
+    const TypedValues atOnce = sums->typedLows(wanted.high.data(), wanted.high.size(), wanted.low.data());
+    const TypedValues typed = sums->typedRows(values.data(), rows.data(), rows.size(), stride, lanes, got);
+    expectSameBits(got, wanted);
+    EXPECT_EQ(typed.exact, atOnce.exact);
+    EXPECT_EQ(typed.ordinary, atOnce.ordinary);
+  }
+}
+
 TEST(PairSums, DecimalsThatDoublesHoldAreNoticed) {
   std::vector<double> values = {1, 2.5, -0.375, 0, 1024, 3, 4, 5, 6};
   std::vector<double> low(values.size());
