@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <numeric>
+#include <utility>
 
 #include "analysis/axis_parts.h"
 
@@ -31,49 +32,38 @@ Matrix derivatives(std::size_t last) {
   return d;
 }
 
-void addTo(std::vector<double>& sums, const std::vector<double>& others) {
-  for (std::size_t n = 0; n < sums.size(); ++n) sums[n] += others[n];
-}
-
 }  // namespace
 
-DeviationSums::DeviationSums(std::size_t terms)
-    : last_(terms - 1), single_(last_ * kChains), withLast_(single_), withFunction_(single_) {}
-
-void DeviationSums::addWeighted(const PairSums& sums, const double* polynomials, const double* forEven,
-                                const double* forOdd, std::vector<double>& result) const {
-  const std::size_t evenCount = (last_ + 1) / 2;
-  sums.doubleDots(forEven, polynomials, 2 * kMostDotted, evenCount, kMostDotted, result.data());
-  sums.doubleDots(forOdd, polynomials + kMostDotted, 2 * kMostDotted, last_ / 2, kMostDotted,
-                  result.data() + evenCount * kChains);
-}
+DeviationSums::DeviationSums(std::size_t terms) : last_(terms - 1), sums_(kWeights * last_ * kChains) {}
 
 void DeviationSums::add(const PairSums& sums, const OppositeDeviations& block, const double* polynomials) {
-  double sum[kMostDotted], difference[kMostDotted];
-  const auto fold = [&](const double* frontFactor, const double* backFactor) {
+  double forEven[kWeights * kMostDotted], forOdd[kWeights * kMostDotted];
+  const auto fold = [&](const double* frontFactor, const double* backFactor, double* sum, double* difference) {
     sums.foldWeights(block.front, frontFactor, block.back, backFactor, kMostDotted, sum, difference);
   };
-  fold(block.functionInFront, block.functionBehind);
-  addWeighted(sums, polynomials, sum, difference, withFunction_);
   const double *ones = polynomials, *last = polynomials + last_ * kMostDotted;
-  fold(ones, ones);
-  addWeighted(sums, polynomials, sum, difference, single_);
-  fold(last, last);
-  const bool lastIsEven = last_ % 2 == 0;
-  addWeighted(sums, polynomials, lastIsEven ? sum : difference, lastIsEven ? difference : sum, withLast_);
+  double *evenWithLast = forEven + WithLast * kMostDotted, *oddWithLast = forOdd + WithLast * kMostDotted;
+  if (last_ % 2 == 1) std::swap(evenWithLast, oddWithLast);
+  fold(ones, ones, forEven + Single * kMostDotted, forOdd + Single * kMostDotted);
+  fold(last, last, evenWithLast, oddWithLast);
+  fold(block.functionInFront, block.functionBehind, forEven + WithFunction * kMostDotted,
+       forOdd + WithFunction * kMostDotted);
+  const std::size_t evenCount = (last_ + 1) / 2, ofWeight = last_ * kChains;
+  sums.doubleDots(forEven, polynomials, 2 * kMostDotted, evenCount, kMostDotted, sums_.data(), ofWeight);
+  sums.doubleDots(forOdd, polynomials + kMostDotted, 2 * kMostDotted, last_ / 2, kMostDotted,
+                  sums_.data() + evenCount * kChains, ofWeight);
 }
 
 void DeviationSums::add(const DeviationSums& part) {
-  addTo(single_, part.single_);
-  addTo(withLast_, part.withLast_);
-  addTo(withFunction_, part.withFunction_);
+  for (std::size_t n = 0; n < sums_.size(); ++n) sums_[n] += part.sums_[n];
   largest = part.largest <= largest ? largest : part.largest;
 }
 
-std::vector<double> DeviationSums::totals(const std::vector<double>& chains) const {
+std::vector<double> DeviationSums::totals(Weight weight) const {
   std::vector<double> sums;
   for (std::size_t j = 0; j < last_; ++j) {
-    const auto from = chains.begin() + static_cast<std::ptrdiff_t>(placeEvenFirst(j, last_) * kChains);
+    const auto from =
+        sums_.begin() + static_cast<std::ptrdiff_t>((weight * last_ + placeEvenFirst(j, last_)) * kChains);
     sums.push_back(std::accumulate(from, from + kChains, 0.0));
   }
   return sums;
@@ -82,15 +72,15 @@ std::vector<double> DeviationSums::totals(const std::vector<double>& chains) con
 DeviationGains::DeviationGains(const DeviationSums& sums)
     : terms_(sums.last_ + 1), largestDeviation_(sums.largest), ofProducts_(terms_ * terms_) {
   const std::size_t m = terms_, last = sums.last_;
-  std::vector<double> single = sums.totals(sums.single_);  // the sums of T_0 .. T_{2 last - 1}
-  const std::vector<double> withLast = sums.totals(sums.withLast_);
+  std::vector<double> single = sums.totals(DeviationSums::Single);  // the sums of T_0 .. T_{2 last - 1}
+  const std::vector<double> withLast = sums.totals(DeviationSums::WithLast);
   single.push_back(withLast[0]);
   for (std::size_t j = 1; j < last; ++j) single.push_back(2 * withLast[j] - single[last - j]);
   Matrix products(last * m);
   for (std::size_t j = 0; j < last; ++j)
     for (std::size_t k = 0; k < m; ++k) products[j * m + k] = (single[j + k] + single[j < k ? k - j : j - k]) / 2;
   const Matrix d = derivatives(last);
-  ofFunction_ = product(d, sums.totals(sums.withFunction_), 1);
+  ofFunction_ = product(d, sums.totals(DeviationSums::WithFunction), 1);
   const Matrix oneSide = product(d, products, m);
   for (std::size_t j = 0; j < m; ++j)
     for (std::size_t k = 0; k < m; ++k) ofProducts_[j * m + k] = oneSide[j * m + k] + oneSide[k * m + j];

@@ -40,13 +40,13 @@ class DeviationSums {
  private:
   friend class DeviationGains;
 
-  // kChains of each, the even polynomials first.
-  void addWeighted(const PairSums& sums, const double* polynomials, const double* forEven, const double* forOdd,
-                   std::vector<double>& result) const;
-  std::vector<double> totals(const std::vector<double>& chains) const;
+  // What the deviations are multiplied with besides each polynomial: nothing, T_q, the function.
+  enum Weight : std::size_t { Single, WithLast, WithFunction };
 
-  std::size_t last_;  // q
-  std::vector<double> single_, withLast_, withFunction_;
+  std::vector<double> totals(Weight weight) const;
+
+  std::size_t last_;          // q
+  std::vector<double> sums_;  // kChains of each polynomial, the even ones first, for one weight after the other
 };
 
 /// What the sums gain.

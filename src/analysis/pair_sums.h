@@ -18,6 +18,8 @@ constexpr std::size_t kChains = 8;
 constexpr std::size_t kBlock = 32;
 constexpr std::size_t kMostDotted = kBlock * kChains;
 
+constexpr std::size_t kWeights = 3;  // that doubleDots takes at once
+
 constexpr std::size_t paddedToChains(std::size_t count) { return (count + kChains - 1) / kChains * kChains; }
 
 /// The magnitudes among some doubles.
@@ -108,9 +110,10 @@ struct PairSums {
   /// The squares of some numbers, at most kMostDotted, in chains like those of `dots`.
   void (*squares)(ConstPairs values, std::size_t count, Pairs sums);
 
-  /// Like `dots`, in doubles: sums[c * kChains + chain] += sum of weights[n] * columns[c * stride + n].
+  /// Like `dots`, in doubles and with kWeights numbers in place of one a: sums[w * sumsStride + c * kChains + chain] +=
+  /// sum of weights[w * count + n] * columns[c * stride + n].
   void (*doubleDots)(const double* weights, const double* columns, std::size_t stride, std::size_t columnCount,
-                     std::size_t count, double* sums);
+                     std::size_t count, double* sums, std::size_t sumsStride);
 
   /// t = (x - middle) * scale * unit at `count` places; unit is a power of two.
   void (*coordinates)(ConstPairs x, const Pair& middle, const Pair& scale, double unit, std::size_t count, Pairs t);
