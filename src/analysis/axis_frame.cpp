@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "analysis/low_parts.h"
+
 namespace tavimor {
 
 namespace {
@@ -113,11 +115,7 @@ bool coordinates(const AxisData& axis, const AxisFrame& frame, const PairSums& s
   }
   const double* values = axis.values.data() + first;
   const std::size_t padded = paddedToChains(count);
-  bool exact = false;
-  if (axis.reading == Reading::AsTyped)
-    exact = sums.typedLows(values, count, t.low).exact;
-  else
-    std::fill_n(t.low, count, 0.0);
+  const bool exact = lowParts(axis.reading, sums, values, count, t.low).exact;
   if (padded > count) {
     std::copy_n(values, count, t.high);
     values = t.high;

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "analysis/low_parts.h"
+
 namespace tavimor {
 
 namespace {
@@ -15,15 +17,6 @@ double smallerOf(double a, double b) { return a == 0.0 || (b != 0.0 && b < a) ? 
 
 SeenValues seenOf(const TypedValues& typed, const PairSums& sums, const double* values, std::size_t count) {
   return {typed.exact, typed.ordinary ? Magnitudes{true, 1.0, 1.0} : sums.magnitudes(values, count)};
-}
-
-SeenValues makeLows(const FunctionValues& function, const PairSums& sums, const double* values, std::size_t count,
-                    double* low) {
-  if (function.reading == Reading::AsStored) {
-    std::fill_n(low, count, 0.0);
-    return {false, sums.magnitudes(values, count)};
-  }
-  return seenOf(sums.typedLows(values, count, low), sums, values, count);
 }
 
 }  // namespace
@@ -48,7 +41,7 @@ FunctionValues functionValues(const Table4& table, Reading reading, const Magnit
 
 ReadValues readValues(const FunctionValues& function, const PairSums& sums, const double* values, std::size_t count,
                       Pairs room) {
-  const SeenValues seen = makeLows(function, sums, values, count, room.low);
+  const SeenValues seen = seenOf(lowParts(function.reading, sums, values, count, room.low), sums, values, count);
   if (function.asTheyAre) return {{values, room.low}, seen};
   for (std::size_t n = 0; n < count; ++n) {
     room.high[n] = std::ldexp(values[n], -function.exponent);

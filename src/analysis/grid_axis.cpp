@@ -5,6 +5,7 @@
 
 #include "analysis/chebyshev_basis.h"
 #include "analysis/deviation_sums.h"
+#include "analysis/low_parts.h"
 
 namespace tavimor {
 
@@ -81,20 +82,13 @@ class GridBlocks {
                              GridSums& part) {
     const AxisFrame& frame = basis_.frame;
     const double* x = stretch.of(axis_.values.data(), x_.high, frame.middle.high);
-    part.exactValues = makeLows(x, stretch.count) && part.exactValues;
+    part.exactValues = lowParts(axis_.reading, sums_, x, stretch.count, x_.low.data()).exact && part.exactValues;
     std::fill(x_.low.begin() + static_cast<std::ptrdiff_t>(stretch.count), x_.low.end(), frame.middle.low);
     const double unit = std::ldexp(frame.scale.high, frame.exponent);
     const double largest =
         sums_.deviations({x, x_.low.data()}, t_.high.data(), frame.middle, width, unit, kMostDotted, deviation.data());
     part.deviations.largest = std::max(part.deviations.largest, largest);
     return deviation.data();
-  }
-
-  // True where all are doubles exactly, as far as that is known.
-  bool makeLows(const double* x, std::size_t count) {
-    if (axis_.reading == Reading::AsTyped) return sums_.typedLows(x, count, x_.low.data()).exact;
-    std::fill_n(x_.low.begin(), count, 0.0);
-    return false;
   }
 
   const AxisData& axis_;
